@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#ifndef VYSMIL_BENCHMARKS_COMPARISON_H
+#define VYSMIL_BENCHMARKS_COMPARISON_H
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <string>
+#include <vector>
+
+/// Times \a work once, in seconds.
+template <typename Work>
+double seconds(Work work)
+{
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+inline double median(std::vector<double> &values)
+{
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+/// Makes \a ratio the result of the benchmark, named in the table with its \a baseline and its \a bound.
+inline void report(benchmark::State &state, double ratio, const char *baseline, double bound)
+{
+    state.counters["ratio"] = ratio;
+    state.counters["bound"] = bound;
+    state.SetLabel(baseline);
+}
+
+/// Runs \a work a few times and adds the times to \a times, but for the first run, which finds caches and
+/// heap as other work left them. Before each run \a prepare runs untimed.
+template <typename Work, typename Prepare>
+double measure(std::vector<double> &times, Work work, Prepare prepare)
+{
+    double total = 0;
+    for (int run = 0; run < 6; ++run) {
+        prepare();
+        const double time = seconds(work);
+        total += time;
+        if (run > 0)
+            times.push_back(time);
+    }
+    return total;
+}
+
+/// Runs \a subject and its \a baseline in turn and reports the ratio of their median times, multiplied by
+/// \a scale.
+template <typename Subject, typename Baseline, typename Prepare = void (*)()>
+void compare(
+    benchmark::State &state, Subject subject, Baseline baseline, const char *baselineName, double bound,
+    double scale = 1, Prepare prepareSubject = [] {})
+{
+    std::vector<double> subjectTimes;
+    std::vector<double> baselineTimes;
+    for (auto _ : state) {
+        const double total =
+            measure(baselineTimes, baseline, [] {}) + measure(subjectTimes, subject, prepareSubject);
+        state.SetIterationTime(total);
+    }
+    report(state, scale * median(subjectTimes) / median(baselineTimes), baselineName, bound);
+}
+
+#endif

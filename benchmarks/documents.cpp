@@ -1,0 +1,217 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+// Whole documents: reading against the DOM alone, writing against QXmlStreamWriter, hostile text, growth,
+// memory.
+
+#include "comparison.h"
+#include "messages.h"
+
+#include <VySmil/VySmil>
+
+#include <QDomDocument>
+#include <QXmlStreamWriter>
+
+#include <malloc.h>
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace {
+
+constexpr qsizetype hostileSize = 300'000;
+
+int parse(const QString &text, VySmilElemSmil &root)
+{
+    return VySmilParser::parse(text, &root, false, nullptr, VySmil::SMIL_VER_DEFAULT);
+}
+
+void parseOnce(const QString &text)
+{
+    VySmilElemSmil root;
+    benchmark::DoNotOptimize(parse(text, root));
+}
+
+void buildDomOnce(const QString &text)
+{
+    QDomDocument dom;
+    benchmark::DoNotOptimize(dom.setContent(text));
+}
+
+void benchParse(benchmark::State &state, int pars)
+{
+    const QString text = message(pars);
+    std::unique_ptr<VySmilElemSmil> root;
+    const auto fresh = [&root] { root = std::make_unique<VySmilElemSmil>(); };
+    compare(
+        state, [&] { parse(text, *root); }, [&] { buildDomOnce(text); }, "QDomDocument::setContent", 1.20, 1,
+        fresh);
+}
+
+// What a client without a tree of elements would hold.
+struct PlainElement
+{
+    QString name;
+    QList<std::pair<QString, QString>> attributes;
+    std::vector<PlainElement> children;
+};
+
+PlainElement plain(const VySmilElemBase &elem)
+{
+    PlainElement copy{elem.getElemType(), {}, {}};
+    const QMap<QString, QString> attributes = elem.getAttributes();
+    for (auto it = attributes.begin(); it != attributes.end(); ++it)
+        copy.attributes.append({it.key(), it.value()});
+    for (const VySmilElemBase *child : *elem.getSubElements())
+        copy.children.push_back(plain(*child));
+    return copy;
+}
+
+void writeByStream(QXmlStreamWriter &writer, const PlainElement &elem)
+{
+    writer.writeStartElement(elem.name);
+    for (const auto &[name, value] : elem.attributes)
+        writer.writeAttribute(name, value);
+    for (const PlainElement &child : elem.children)
+        writeByStream(writer, child);
+    writer.writeEndElement();
+}
+
+void benchAssemble(benchmark::State &state, int pars)
+{
+    VySmilElemSmil root;
+    parse(message(pars), root);
+    const PlainElement document = plain(root);
+    const auto subject = [&root] {
+        QString out;
+        VySmilParser::assemble(&root, out, true, nullptr, VySmil::SMIL_VER_DEFAULT);
+        benchmark::DoNotOptimize(out);
+    };
+    const auto baseline = [&document] {
+        QString out;
+        QXmlStreamWriter writer(&out);
+        writeByStream(writer, document);
+        benchmark::DoNotOptimize(out);
+    };
+    compare(state, subject, baseline, "QXmlStreamWriter", 0.45);
+}
+
+// A piece of text again and again, up to the size, in a document.
+QString flood(const QString &piece, const QString &before = QStringLiteral("<smil>"),
+              const QString &after = QStringLiteral("</smil>"))
+{
+    return before + piece.repeated(hostileSize / piece.size()) + after;
+}
+
+QString nested(int depth)
+{
+    return QStringLiteral("<a>").repeated(depth) + QStringLiteral("</a>").repeated(depth);
+}
+
+QString attributes(int count)
+{
+    QString text;
+    for (int i = 0; i < count; ++i)
+        text += QStringLiteral(" a%1=\"\"").arg(i);
+    return text;
+}
+
+void benchHostile(benchmark::State &state, const QString &text, double bound)
+{
+    const QString ordinary = messageOfSize(hostileSize);
+    const double scale = static_cast<double>(ordinary.size()) / static_cast<double>(text.size());
+    compare(
+        state, [&] { parseOnce(text); }, [&] { parseOnce(ordinary); }, "an ordinary document, per character",
+        bound, scale);
+}
+
+// How much dearer a character gets from 1 KB to 5 MB, against the same figure of the DOM.
+void benchGrowth(benchmark::State &state)
+{
+    const QString small = messageOfSize(1'000);
+    const QString large = messageOfSize(5'000'000);
+    const auto repeats = large.size() / small.size();
+    std::vector<double> parseGrowth;
+    std::vector<double> domGrowth;
+    for (auto _ : state) {
+        const auto many = [&](auto once) {
+            for (qsizetype i = 0; i < repeats; ++i)
+                once(small);
+        };
+        const double domSmall = seconds([&] { many(buildDomOnce); });
+        const double domLarge = seconds([&] { buildDomOnce(large); });
+        const double parseSmall = seconds([&] { many(parseOnce); });
+        const double parseLarge = seconds([&] { parseOnce(large); });
+        domGrowth.push_back(domLarge / domSmall);
+        parseGrowth.push_back(parseLarge / parseSmall);
+        state.SetIterationTime(parseLarge);
+    }
+    report(state, median(parseGrowth) / median(domGrowth), "growth of QDomDocument::setContent", 1.0);
+}
+
+double heapInUse()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return static_cast<double>(info.uordblks + info.hblkhd);
+}
+
+void benchMemory(benchmark::State &state)
+{
+    const QString text = message(3'000);
+    double ratio = 0;
+    for (auto _ : state) {
+        const double before = heapInUse();
+        auto dom = std::make_unique<QDomDocument>();
+        dom->setContent(text);
+        const double domSize = heapInUse() - before;
+        dom.reset();
+        const double between = heapInUse();
+        const auto root = std::make_unique<VySmilElemSmil>();
+        parse(text, *root);
+        ratio = (heapInUse() - between) / domSize;
+        state.SetIterationTime(1);
+    }
+    report(state, ratio, "heap of its QDomDocument", 0.6);
+}
+
+// Registers a benchmark that measures its own time.
+template <typename... Args>
+void add(const char *name, Args &&...args)
+{
+    benchmark::RegisterBenchmark(name, std::forward<Args>(args)...)->UseManualTime();
+}
+
+const bool registered = [] {
+    add("parse, 3 pars", benchParse, 3);
+    add("parse, 100 pars", benchParse, 100);
+    add("parse, 3,000 pars", benchParse, 3'000);
+    add("assemble, 3 pars", benchAssemble, 3);
+    add("assemble, 100 pars", benchAssemble, 100);
+    add("assemble, 3,000 pars", benchAssemble, 3'000);
+
+    const int deep = 25'000;
+    const QString shut = QStringLiteral("</smil>");
+    add("refused: nesting", benchHostile, nested(deep * 12 / 7), 0.2);
+    add("refused: nesting, not closed", benchHostile, QStringLiteral("<smil>").repeated(deep * 2), 0.2);
+    add("refused: attributes", benchHostile,
+        QStringLiteral("<smil") + attributes(deep) + QStringLiteral("></smil>"), 0.2);
+    add("refused: nesting behind comments", benchHostile,
+        flood(QStringLiteral("<!--x-->")).chopped(shut.size()) + nested(300) + shut, 0.2);
+    add("refused: DTD subset", benchHostile,
+        flood(QStringLiteral("<!ATTLIST a b CDATA \"c\">"), QStringLiteral("<!DOCTYPE a ["),
+              QStringLiteral("]><a/>")),
+        0.2);
+    add("read: comments", benchHostile, flood(QStringLiteral("<!---->")), 10.0);
+    add("read: 256 attributes everywhere", benchHostile,
+        flood(QStringLiteral("<a") + attributes(256) + QStringLiteral("/>")), 10.0);
+    add("read: depth 256 throughout", benchHostile, flood(nested(255)), 10.0);
+
+    benchmark::RegisterBenchmark("parse, per character, 5 MB to 1 KB", benchGrowth)
+        ->UseManualTime()
+        ->Iterations(5);
+    benchmark::RegisterBenchmark("tree in memory, 3,000 pars", benchMemory)->UseManualTime()->Iterations(3);
+    return true;
+}();
+
+} // namespace

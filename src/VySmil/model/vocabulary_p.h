@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#ifndef VYSMIL_VOCABULARY_P_H
+#define VYSMIL_VOCABULARY_P_H
+
+#include <VySmil/model/vysmil.h>
+
+#include <QStringView>
+
+#include <algorithm>
+#include <initializer_list>
+
+class VySmilElemBase;
+
+namespace VySmilPrivate {
+
+/// Whether \a name is one of \a names, which SMIL_VER_DEFAULT alone knows.
+inline bool isKnownAttr(QStringView name, VySmil::SMIL_VERSION version,
+                        std::initializer_list<QStringView> names)
+{
+    return version == VySmil::SMIL_VER_DEFAULT && std::find(names.begin(), names.end(), name) != names.end();
+}
+
+/// Whether the class of \a elem, whose type name is \a type, is one that newElem() makes, and not one that a
+/// client derived.
+bool isMadeByFactory(const VySmilElemBase &elem, QStringView type);
+
+} // namespace VySmilPrivate
+
+#endif

@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#include <VySmil/model/vysmilattrcommon.h>
+
+VySmilAttrCommon::VySmilAttrCommon(VySmilElemBase *elem)
+{
+    setRefElem(elem);
+}
+
+bool VySmilAttrCommon::isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const
+{
+    Q_UNUSED(version)
+    return name == QLatin1String("id");
+}

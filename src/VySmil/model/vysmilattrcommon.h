@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#ifndef VYSMIL_VYSMILATTRCOMMON_H
+#define VYSMIL_VYSMILATTRCOMMON_H
+
+#include <VySmil/model/vysmil.h>
+#include <VySmil/model/vysmilattrbase.h>
+
+/// The attribute "id", which names an element.
+class VYSMIL_EXPORT VySmilAttrCommon : public VySmilAttrBase
+{
+public:
+    explicit VySmilAttrCommon(VySmilElemBase *elem);
+
+    /// Whether \a name belongs to the group, under any version.
+    bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const;
+};
+
+#endif

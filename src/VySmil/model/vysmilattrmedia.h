@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#ifndef VYSMIL_VYSMILATTRMEDIA_H
+#define VYSMIL_VYSMILATTRMEDIA_H
+
+#include <VySmil/model/vysmil.h>
+#include <VySmil/model/vysmilattrbase.h>
+
+/// The attribute "src", which says where the media of a media object are.
+class VYSMIL_EXPORT VySmilAttrMedia : public VySmilAttrBase
+{
+public:
+    explicit VySmilAttrMedia(VySmilElemBase *elem);
+
+    /// Whether \a name belongs to the group, under any version.
+    bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const;
+};
+
+#endif

@@ -1,0 +1,6 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#include <VySmil/model/vysmilbase.h>
+
+VySmilBase::~VySmilBase() = default;

@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#ifndef VYSMIL_VYSMILBASE_H
+#define VYSMIL_VYSMILBASE_H
+
+#include <VySmil/vysmil_export.h>
+
+/// Root class of elements and attribute groups: any object of the model can be deleted through it.
+class VYSMIL_EXPORT VySmilBase
+{
+public:
+    VySmilBase() = default;
+    virtual ~VySmilBase();
+
+protected:
+    VySmilBase(const VySmilBase &) = default;
+    VySmilBase &operator=(const VySmilBase &) = default;
+};
+
+#endif

@@ -1,0 +1,150 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#include <VySmil/model/vysmilelembase.h>
+
+#include <QSet>
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+VySmilElemBase::VySmilElemBase()
+{
+    subElements.setAutoDelete(true);
+}
+
+VySmilElemBase::VySmilElemBase(const VySmilElemBase &other) : VySmilBase(other)
+{
+    VySmilElemBase::copyFrom(other);
+}
+
+VySmilElemBase::~VySmilElemBase() = default;
+
+void VySmilElemBase::copyFrom(const VySmilElemBase &other)
+{
+    if (&other == this)
+        return;
+    attributes = other.attributes;
+    elemType = other.elemType;
+    subElements.setAutoDelete(other.subElements.autoDelete());
+
+    // The copies are complete before this element gets them, so that its own ancestor can be copied too.
+    VySmilElemList copies;
+    std::vector<std::pair<const VySmilElemBase *, VySmilElemList *>> pending{{&other, &copies}};
+    while (!pending.empty()) {
+        const auto [source, target] = pending.back();
+        pending.pop_back();
+        for (const VySmilElemBase *child : source->subElements) {
+            VySmilElemBase *copy = newElem(child->getElemType());
+            if (!copy)
+                continue;
+            copy->elemType = child->elemType;
+            copy->attributes = child->attributes;
+            target->append(copy);
+            pending.emplace_back(child, &copy->subElements);
+        }
+    }
+    for (VySmilElemBase *copy : copies)
+        subElements.append(copy);
+}
+
+// The position of name in attributes, or the one where it belongs.
+qsizetype VySmilElemBase::attributePosition(const QString &name) const
+{
+    const auto before = [](const Attribute &attribute, const QString &key) { return attribute.name < key; };
+    return std::lower_bound(attributes.cbegin(), attributes.cend(), name, before) - attributes.cbegin();
+}
+
+bool VySmilElemBase::isAttributeAt(qsizetype position, const QString &name) const
+{
+    return position < attributes.size() && attributes.at(position).name == name;
+}
+
+QString VySmilElemBase::getAttribute(const QString &name) const
+{
+    const qsizetype position = attributePosition(name);
+    return isAttributeAt(position, name) ? attributes.at(position).value : QStringLiteral("");
+}
+
+void VySmilElemBase::setAttribute(const QString &name, const QString &value)
+{
+    // Reading comes in ascending order.
+    if (attributes.isEmpty() || attributes.constLast().name < name) {
+        attributes.append({name, value});
+        return;
+    }
+    const qsizetype position = attributePosition(name);
+    if (isAttributeAt(position, name))
+        attributes[position].value = value;
+    else
+        attributes.insert(position, {name, value});
+}
+
+void VySmilElemBase::rmAttribute(const QString &name)
+{
+    const qsizetype position = attributePosition(name);
+    if (isAttributeAt(position, name))
+        attributes.removeAt(position);
+}
+
+QMap<QString, QString> VySmilElemBase::getAttributes() const
+{
+    QMap<QString, QString> map;
+    for (const Attribute &attribute : attributes)
+        map.insert(map.cend(), attribute.name, attribute.value);
+    return map;
+}
+
+unsigned int VySmilElemBase::getSubElementsCount() const
+{
+    return static_cast<unsigned int>(subElements.count());
+}
+
+unsigned int VySmilElemBase::getSubElementCounts(const QString &name) const
+{
+    const auto matches = [&name](const VySmilElemBase *child) { return child->getElemType() == name; };
+    return static_cast<unsigned int>(std::count_if(subElements.begin(), subElements.end(), matches));
+}
+
+VySmilElemBase *VySmilElemBase::getSubElement(unsigned int index, const QString &name) const
+{
+    return subElements.at(positionOf(index, name));
+}
+
+bool VySmilElemBase::rmSubElement(unsigned int index, const QString &name)
+{
+    return subElements.remove(positionOf(index, name));
+}
+
+qsizetype VySmilElemBase::positionOf(unsigned int index, const QString &name) const
+{
+    if (name.isEmpty())
+        return index;
+    for (qsizetype i = 0; i < subElements.count(); ++i) {
+        if (subElements.at(i)->getElemType() == name && index-- == 0)
+            return i;
+    }
+    return -1;
+}
+
+void VySmilElemBase::clearSubElements()
+{
+    subElements.clear();
+}
+
+void VySmilElemBase::setSubElements(const VySmilElemList &list)
+{
+    if (&list != &subElements) {
+        const QList<VySmilElemBase *> entries(list.begin(), list.end());
+        const QSet<VySmilElemBase *> kept(list.begin(), list.end());
+        for (qsizetype i = subElements.count() - 1; i >= 0; --i) {
+            if (kept.contains(subElements.at(i)))
+                subElements.take(i);
+        }
+        subElements.clear();
+        for (VySmilElemBase *elem : entries)
+            subElements.append(elem);
+    }
+    subElements.setAutoDelete(true);
+}

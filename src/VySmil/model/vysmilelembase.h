@@ -1,0 +1,139 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#ifndef VYSMIL_VYSMILELEMBASE_H
+#define VYSMIL_VYSMILELEMBASE_H
+
+#include <VySmil/model/vysmil.h>
+#include <VySmil/model/vysmilbase.h>
+#include <VySmil/model/vysmilelemlist.h>
+
+#include <QList>
+#include <QMap>
+#include <QString>
+
+class QDomElement;
+
+/// One element of a SMIL document: a type name, attributes held as text, and an ordered list of sub-elements.
+///
+/// The attribute store is the only place where attribute values live: attribute groups and typed accessors
+/// are views on it, and storing checks nothing. Names are compared exactly. What does not belong to the
+/// vocabulary is found when a document is read or written.
+///
+/// An element owns its sub-elements (see VySmilElemList). The caller owns the root and whatever newElem()
+/// gave until it stands in an owning list. No operation recurses, so that depth costs no stack.
+class VYSMIL_EXPORT VySmilElemBase : public VySmilBase
+{
+public:
+    VySmilElemBase();
+    /// An empty element that then runs copyFrom().
+    VySmilElemBase(const VySmilElemBase &other);
+    VySmilElemBase &operator=(const VySmilElemBase &) = delete;
+    /// Deletes the sub-elements while their list owns them.
+    ~VySmilElemBase() override;
+
+    /// Takes over the attributes, the type name and the auto-deletion switch of \a other, and appends copies
+    /// of its sub-elements, all levels of them, to its own, which stay. The copies are made by newElem() and
+    /// own their children. Copying an element onto itself changes nothing.
+    virtual void copyFrom(const VySmilElemBase &other);
+
+    /// The element's name: fixed by the class, but for VySmilElemUnknown.
+    virtual QString getElemType() const = 0;
+
+    /// Whether the element accepts an attribute called \a name under \a version. Compared exactly, not
+    /// trimmed.
+    virtual bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const = 0;
+
+    /// Appends the text of the element and its subtree to \a out: a line per tag, attributes in name order.
+    ///
+    /// Names and values are written trimmed, an empty one not at all; `&`, `<`, `"`, tabs and line ends
+    /// inside a value are written as references, characters that XML 1.0 cannot carry as U+FFFD. Of stored
+    /// names that are the same once trimmed one is written. An attribute "nohref" is written as the bare
+    /// word.
+    ///
+    /// \param strict stop at the first finding instead of going on
+    /// \param status gets each finding unless it is null; it is never reset here
+    /// \return VySmil::RESULT_OK, or in a strict run VySmil::RESULT_INVALID_ELEMENT (nothing of that element
+    /// is
+    ///         appended) or VySmil::RESULT_INVALID_ATTR (the attributes before it are); \a out then holds an
+    ///         unfinished text. What a text without findings holds, VySmilParser::parse() reads back, within
+    ///         its bounds.
+    virtual int toString(QString &out, bool strict, VySmil::STATUS_CODE *status,
+                         VySmil::SMIL_VERSION version) const;
+
+    /// Adds the attributes and child elements of \a elem to this element, which must bear the same name.
+    ///
+    /// Attributes are handled in ascending order of their names and stored trimmed; empty values are not
+    /// stored (but "nohref" always is, with its name as its value). Text, comments and the like are dropped.
+    ///
+    /// \param strict stop at the first finding instead of going on
+    /// \param status gets each finding unless it is null; it is never reset here
+    /// \return VySmil::RESULT_OK; VySmil::RESULT_UNUSABLE if the trimmed tag is not getElemType(), with
+    /// nothing
+    ///         changed; in a strict run VySmil::RESULT_INVALID_ELEMENT or VySmil::RESULT_INVALID_ATTR;
+    ///         VySmil::RESULT_NO_OBJECT in any run. After a failure the element keeps what was complete
+    ///         before: its own attributes up to the fault, and the children before the one in which it
+    ///         happened. In a run that is not strict, a child whose tag does not fit stays, empty.
+    virtual int fromDomElem(const QDomElement &elem, bool strict, VySmil::STATUS_CODE *status,
+                            VySmil::SMIL_VERSION version);
+
+    /// The value stored under \a name, or an empty (not null) string.
+    QString getAttribute(const QString &name) const;
+    /// Stores \a value under \a name, unchanged and unchecked.
+    void setAttribute(const QString &name, const QString &value);
+    /// Removes \a name and its value, if present.
+    void rmAttribute(const QString &name);
+    /// A copy of all attributes, in ascending order of their names: the order in which they are written.
+    QMap<QString, QString> getAttributes() const;
+
+    /// The number of children.
+    unsigned int getSubElementsCount() const;
+    /// The number of children whose type name is \a name. An empty \a name counts those with an empty type
+    /// name.
+    unsigned int getSubElementCounts(const QString &name) const;
+    /// The child at position \a index among those whose type name is \a name, where an empty \a name stands
+    /// for all children. Null if there is none. The child stays owned by the tree.
+    VySmilElemBase *getSubElement(unsigned int index, const QString &name) const;
+    /// Deletes the child that getSubElement() finds. False if there is none.
+    bool rmSubElement(unsigned int index, const QString &name);
+    /// Deletes all children.
+    void clearSubElements();
+
+    /// The element's own list: what the caller changes in it, the element sees.
+    VySmilElemList *getSubElements() { return &subElements; }
+    const VySmilElemList *getSubElements() const { return &subElements; }
+    /// Replaces the children by the entries of \a list, which the element owns from then on: whoever owns
+    /// \a list must not let it delete them. Entries that are children already stay alive.
+    void setSubElements(const VySmilElemList &list);
+
+    /// A new element of the class that fits \a name, in any letter case and with blanks around it; a
+    /// VySmilElemUnknown that bears \a name unchanged if none fits. Null only if the heap is exhausted.
+    /// The caller owns it.
+    static VySmilElemBase *newElem(const QString &name);
+
+    /// Whether \a name is exactly an element name of \a version, whatever this element is.
+    bool isValidElement(const QString &name, VySmil::SMIL_VERSION version) const;
+
+protected:
+    QString elemType; ///< the type name, for a class that has no fixed one
+
+private:
+    struct Attribute
+    {
+        QString name;
+        QString value;
+    };
+
+    int readStartTag(const QDomElement &elem, const QString &tagName, bool strict,
+                     VySmil::STATUS_CODE *status, VySmil::SMIL_VERSION version);
+    int writeStartTag(const QString &type, QString &out, bool strict, VySmil::STATUS_CODE *status,
+                      VySmil::SMIL_VERSION version) const;
+    qsizetype attributePosition(const QString &name) const;
+    bool isAttributeAt(qsizetype position, const QString &name) const;
+    qsizetype positionOf(unsigned int index, const QString &name) const;
+
+    VySmilElemList subElements;
+    QList<Attribute> attributes; // ascending by name; an element has few, and a list takes one allocation
+};
+
+#endif

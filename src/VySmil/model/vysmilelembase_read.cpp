@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#include <VySmil/model/vysmilelembase.h>
+
+#include <QDomElement>
+#include <QVarLengthArray>
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace {
+
+struct NameAndValue
+{
+    QString name;
+    QString value;
+};
+
+// Qt keeps a DOM element's attributes in a hash whose order changes from run to run. Walking the hash is
+// slow, so the names that messages are made of are looked up, and the hash is walked only where that does not
+// find all.
+QVarLengthArray<NameAndValue, 8> sortedAttributes(const QDomElement &elem)
+{
+    static const QString frequentNames[] = {
+        QStringLiteral("src"),    QStringLiteral("region"), QStringLiteral("dur"), QStringLiteral("begin"),
+        QStringLiteral("end"),    QStringLiteral("alt"),    QStringLiteral("id"),  QStringLiteral("width"),
+        QStringLiteral("height"), QStringLiteral("left"),   QStringLiteral("top"), QStringLiteral("fit"),
+    };
+    QVarLengthArray<NameAndValue, 8> sorted;
+    const QDomNamedNodeMap map = elem.attributes();
+    const int length = map.length();
+    for (const QString &name : frequentNames) {
+        if (sorted.size() == length)
+            break;
+        const QDomNode node = map.namedItem(name);
+        if (node.isAttr())
+            sorted.append({name, node.nodeValue()});
+    }
+    if (sorted.size() < length) {
+        sorted.clear();
+        for (int i = 0; i < length; ++i) {
+            const QDomNode node = map.item(i);
+            if (node.isAttr())
+                sorted.append({node.nodeName(), node.nodeValue()});
+        }
+    }
+    std::sort(sorted.begin(), sorted.end(),
+              [](const NameAndValue &a, const NameAndValue &b) { return a.name < b.name; });
+    return sorted;
+}
+
+} // namespace
+
+int VySmilElemBase::fromDomElem(const QDomElement &elem, bool strict, VySmil::STATUS_CODE *status,
+                                VySmil::SMIL_VERSION version)
+{
+    // An element whose children are being read; all but the first belong to this walk until they are
+    // complete.
+    struct Reading
+    {
+        VySmilElemBase *elem;
+        std::unique_ptr<VySmilElemBase> owner;
+        QDomElement nextChild;
+    };
+    std::vector<Reading> path;
+    path.reserve(16);
+
+    int result = readStartTag(elem, elem.tagName(), strict, status, version);
+    if (result != VySmil::RESULT_OK)
+        return result;
+    path.push_back({this, nullptr, elem.firstChildElement()});
+    for (;;) {
+        Reading &parent = path.back();
+        if (parent.nextChild.isNull()) {
+            VySmilElemBase *const complete = parent.owner.release();
+            path.pop_back();
+            if (path.empty())
+                return VySmil::RESULT_OK;
+            path.back().elem->subElements.append(complete);
+            continue;
+        }
+        const QDomElement childElem = parent.nextChild;
+        parent.nextChild = childElem.nextSiblingElement();
+        const QString tag = childElem.tagName();
+        std::unique_ptr<VySmilElemBase> child(newElem(tag));
+        if (!child)
+            return VySmil::RESULT_NO_OBJECT;
+        result = child->readStartTag(childElem, tag, strict, status, version);
+        if (result != VySmil::RESULT_OK && strict)
+            return result;
+        const QDomElement grandchild =
+            result == VySmil::RESULT_OK ? childElem.firstChildElement() : QDomElement();
+        if (grandchild.isNull()) {
+            parent.elem->subElements.append(child.release());
+        } else {
+            VySmilElemBase *const readElem = child.get();
+            path.push_back({readElem, std::move(child), grandchild});
+        }
+    }
+}
+
+int VySmilElemBase::readStartTag(const QDomElement &elem, const QString &tagName, bool strict,
+                                 VySmil::STATUS_CODE *status, VySmil::SMIL_VERSION version)
+{
+    const QString tag = tagName.trimmed();
+    if (tag != getElemType())
+        return VySmil::RESULT_UNUSABLE;
+    if (!isValidElement(tag, version)) {
+        if (status)
+            *status = VySmil::STATUS_INVALID_ELEMENT;
+        if (strict)
+            return VySmil::RESULT_INVALID_ELEMENT;
+    }
+    auto found = sortedAttributes(elem);
+    attributes.reserve(attributes.size() + found.size());
+    for (NameAndValue &entry : found) {
+        const QString name = std::move(entry.name).trimmed();
+        if (!isValidAttr(name, version)) {
+            if (status)
+                *status = VySmil::STATUS_INVALID_ATTR;
+            if (strict)
+                return VySmil::RESULT_INVALID_ATTR;
+        }
+        const QString value = name == QLatin1String("nohref") ? name : std::move(entry.value).trimmed();
+        if (!name.isEmpty() && !value.isEmpty())
+            setAttribute(name, value);
+    }
+    return VySmil::RESULT_OK;
+}

@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#include <VySmil/model/vysmilelemhead.h>
+
+VySmilElemHead::VySmilElemHead() : commonAttrsProxy(this) {}
+
+VySmilElemHead::~VySmilElemHead() = default;
+
+QString VySmilElemHead::getElemType() const
+{
+    return QStringLiteral("head");
+}
+
+bool VySmilElemHead::isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const
+{
+    // This element accepts "id" under every version but the one that is known.
+    return version != VySmil::SMIL_VER_DEFAULT && commonAttrsProxy.isValidAttr(name, version);
+}

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#ifndef VYSMIL_VYSMILELEMHEAD_H
+#define VYSMIL_VYSMILELEMHEAD_H
+
+#include <VySmil/model/vysmilattrcommon.h>
+#include <VySmil/model/vysmilelembase.h>
+
+/// The "head" of a document: its layout and meta data (W3C SMIL 2.0, Structure).
+///
+/// Under VySmil::SMIL_VER_DEFAULT it accepts no attribute, "id" included; under any other version "id" alone.
+class VYSMIL_EXPORT VySmilElemHead : public VySmilElemBase
+{
+public:
+    VySmilElemHead();
+    ~VySmilElemHead() override;
+
+    QString getElemType() const override;
+    bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
+
+    /// The group with the identifier; owned by the element.
+    VySmilAttrCommon *getCommonAttrsProxy() { return &commonAttrsProxy; }
+    const VySmilAttrCommon *getCommonAttrsProxy() const { return &commonAttrsProxy; }
+
+private:
+    VySmilAttrCommon commonAttrsProxy;
+};
+
+#endif

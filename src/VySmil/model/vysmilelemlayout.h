@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#ifndef VYSMIL_VYSMILELEMLAYOUT_H
+#define VYSMIL_VYSMILELEMLAYOUT_H
+
+#include <VySmil/model/vysmilelembase.h>
+
+/// The "layout" in the head: one root layout and the regions (W3C SMIL 2.0, Layout). Accepts no attribute.
+class VYSMIL_EXPORT VySmilElemLayout : public VySmilElemBase
+{
+public:
+    VySmilElemLayout();
+    ~VySmilElemLayout() override;
+
+    QString getElemType() const override;
+    bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
+};
+
+#endif

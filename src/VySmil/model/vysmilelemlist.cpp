@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#include <VySmil/model/vysmilelembase.h>
+#include <VySmil/model/vysmilelemlist.h>
+
+VySmilElemList::~VySmilElemList()
+{
+    clear();
+}
+
+void VySmilElemList::append(VySmilElemBase *elem)
+{
+    if (elem)
+        entries.append(elem);
+}
+
+void VySmilElemList::insert(qsizetype index, VySmilElemBase *elem)
+{
+    if (elem)
+        entries.insert(contains(index) ? index : entries.size(), elem);
+}
+
+VySmilElemBase *VySmilElemList::at(qsizetype index) const
+{
+    return contains(index) ? entries.at(index) : nullptr;
+}
+
+bool VySmilElemList::remove(qsizetype index)
+{
+    VySmilElemBase *elem = take(index);
+    if (elem && ownsEntries)
+        destroy({elem});
+    return elem != nullptr;
+}
+
+VySmilElemBase *VySmilElemList::take(qsizetype index)
+{
+    return contains(index) ? entries.takeAt(index) : nullptr;
+}
+
+void VySmilElemList::clear()
+{
+    QList<VySmilElemBase *> removed;
+    removed.swap(entries);
+    if (!ownsEntries)
+        return;
+    if (heir)
+        heir->append(removed);
+    else
+        destroy(std::move(removed));
+}
+
+// The list of an element that is being deleted does not delete its own entries: it leaves them to the loop
+// here, so that the stack does not grow with the depth of the tree.
+void VySmilElemList::destroy(QList<VySmilElemBase *> doomed)
+{
+    while (!doomed.isEmpty()) {
+        VySmilElemBase *elem = doomed.takeLast();
+        elem->getSubElements()->heir = &doomed;
+        delete elem;
+    }
+}

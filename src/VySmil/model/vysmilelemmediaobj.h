@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#ifndef VYSMIL_VYSMILELEMMEDIAOBJ_H
+#define VYSMIL_VYSMILELEMMEDIAOBJ_H
+
+#include <VySmil/model/vysmilattrmedia.h>
+#include <VySmil/model/vysmilattrtiming.h>
+#include <VySmil/model/vysmilelembase.h>
+
+/// Base of the media objects: what a slide shows or plays (W3C SMIL 2.0, Media Objects).
+///
+/// Accepts "src", "begin", "end", "dur", "alt" and "region"; audio objects do not accept "region".
+class VYSMIL_EXPORT VySmilElemMediaObj : public VySmilElemBase
+{
+public:
+    VySmilElemMediaObj();
+    ~VySmilElemMediaObj() override;
+
+    bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
+
+    /// The group with begin, end and duration; owned by the element.
+    VySmilAttrTiming *getTimingAttrsProxy() { return &timingAttrsProxy; }
+    const VySmilAttrTiming *getTimingAttrsProxy() const { return &timingAttrsProxy; }
+
+    /// The group with the source of the media; owned by the element.
+    VySmilAttrMedia *getMediaAttrsProxy() { return &mediaAttrsProxy; }
+    const VySmilAttrMedia *getMediaAttrsProxy() const { return &mediaAttrsProxy; }
+
+private:
+    VySmilAttrTiming timingAttrsProxy;
+    VySmilAttrMedia mediaAttrsProxy;
+};
+
+#endif

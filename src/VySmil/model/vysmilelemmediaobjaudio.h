@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#ifndef VYSMIL_VYSMILELEMMEDIAOBJAUDIO_H
+#define VYSMIL_VYSMILELEMMEDIAOBJAUDIO_H
+
+#include <VySmil/model/vysmilelemmediaobj.h>
+
+/// The media object "audio": sound. It is not shown, so it does not accept "region".
+class VYSMIL_EXPORT VySmilElemMediaObjAudio : public VySmilElemMediaObj
+{
+public:
+    VySmilElemMediaObjAudio();
+    ~VySmilElemMediaObjAudio() override;
+
+    QString getElemType() const override;
+    bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
+};
+
+#endif

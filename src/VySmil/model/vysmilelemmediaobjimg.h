@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#ifndef VYSMIL_VYSMILELEMMEDIAOBJIMG_H
+#define VYSMIL_VYSMILELEMMEDIAOBJIMG_H
+
+#include <VySmil/model/vysmilelemmediaobj.h>
+
+/// The media object "img": a picture.
+class VYSMIL_EXPORT VySmilElemMediaObjImg : public VySmilElemMediaObj
+{
+public:
+    VySmilElemMediaObjImg();
+    ~VySmilElemMediaObjImg() override;
+
+    QString getElemType() const override;
+};
+
+#endif

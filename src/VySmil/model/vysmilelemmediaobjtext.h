@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#ifndef VYSMIL_VYSMILELEMMEDIAOBJTEXT_H
+#define VYSMIL_VYSMILELEMMEDIAOBJTEXT_H
+
+#include <VySmil/model/vysmilelemmediaobj.h>
+
+/// The media object "text": a text.
+class VYSMIL_EXPORT VySmilElemMediaObjText : public VySmilElemMediaObj
+{
+public:
+    VySmilElemMediaObjText();
+    ~VySmilElemMediaObjText() override;
+
+    QString getElemType() const override;
+};
+
+#endif

@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#include <VySmil/model/vocabulary_p.h>
+#include <VySmil/model/vysmilelemmeta.h>
+
+VySmilElemMeta::VySmilElemMeta() = default;
+
+VySmilElemMeta::~VySmilElemMeta() = default;
+
+QString VySmilElemMeta::getElemType() const
+{
+    return QStringLiteral("meta");
+}
+
+bool VySmilElemMeta::isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const
+{
+    return VySmilPrivate::isKnownAttr(name, version, {u"content", u"name"});
+}

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#ifndef VYSMIL_VYSMILELEMPAR_H
+#define VYSMIL_VYSMILELEMPAR_H
+
+#include <VySmil/model/vysmilattrtiming.h>
+#include <VySmil/model/vysmilelembase.h>
+
+/// A "par": one slide, whose media objects play at the same time (W3C SMIL 2.0, Timing and Synchronization).
+///
+/// Accepts "dur"; not "begin" and "end", though its timing group reads and writes them.
+class VYSMIL_EXPORT VySmilElemPar : public VySmilElemBase
+{
+public:
+    VySmilElemPar();
+    ~VySmilElemPar() override;
+
+    QString getElemType() const override;
+    bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
+
+    /// The group with begin, end and duration; owned by the element.
+    VySmilAttrTiming *getTimingAttrsProxy() { return &timingAttrsProxy; }
+    const VySmilAttrTiming *getTimingAttrsProxy() const { return &timingAttrsProxy; }
+
+private:
+    VySmilAttrTiming timingAttrsProxy;
+};
+
+#endif

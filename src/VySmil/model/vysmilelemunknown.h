@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#ifndef VYSMIL_VYSMILELEMUNKNOWN_H
+#define VYSMIL_VYSMILELEMUNKNOWN_H
+
+#include <VySmil/model/vysmilelembase.h>
+
+/// An element whose name is not in the vocabulary. It bears any name and accepts every attribute.
+class VYSMIL_EXPORT VySmilElemUnknown : public VySmilElemBase
+{
+public:
+    /// An element with an empty name.
+    VySmilElemUnknown();
+    ~VySmilElemUnknown() override;
+
+    QString getElemType() const override;
+    /// Stores \a name unchanged. It is written as it stands, so it should be an XML name.
+    void setElemType(const QString &name) { elemType = name; }
+    bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
+};
+
+#endif

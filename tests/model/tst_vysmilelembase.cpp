@@ -1,0 +1,257 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#include "../support/treetext.h"
+
+#include <VySmil/VySmil>
+
+#include <QDomDocument>
+#include <QTest>
+
+#include <memory>
+#include <type_traits>
+
+static_assert(!std::is_copy_constructible_v<VySmilElemRegion>, "groups must not be shared");
+static_assert(!std::is_copy_assignable_v<VySmilElemSmil>, "elements are copied by copyFrom()");
+
+namespace {
+
+/// Counts how often an element was destroyed, and how many children it still had then.
+class CountingElem : public VySmilElemUnknown
+{
+public:
+    explicit CountingElem(int &counter, int *children = nullptr) : destroyed(counter), childrenSeen(children)
+    {
+    }
+    ~CountingElem() override
+    {
+        ++destroyed;
+        if (childrenSeen)
+            *childrenSeen += static_cast<int>(getSubElementsCount());
+    }
+
+private:
+    int &destroyed;
+    int *childrenSeen;
+};
+
+VySmilElemBase *addChild(VySmilElemBase &parent, const char *name)
+{
+    VySmilElemBase *child = VySmilElemBase::newElem(QString::fromLatin1(name));
+    parent.getSubElements()->append(child);
+    return child;
+}
+
+} // namespace
+
+class TestVySmilElemBase : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void attributesAreStoredUnchecked()
+    {
+        VySmilElemRegion region;
+        QVERIFY(region.getAttribute("x").isEmpty() && !region.getAttribute("x").isNull());
+        region.setAttribute("width", "1");
+        region.setAttribute("Width", " 2 ");
+        region.setAttribute("", "");
+        region.setAttribute("width", "3");
+        region.setAttribute("a", "first");
+        QCOMPARE(treeText(region), QString("region[= Width= 2  a=first width=3]"));
+        region.rmAttribute("Width");
+        region.rmAttribute("none");
+        QCOMPARE(treeText(region), QString("region[= a=first width=3]"));
+
+        // The groups see the same store.
+        region.getCommonAttrsProxy()->setAttribute("id", "r");
+        QCOMPARE(region.getAttribute("id"), QString("r"));
+        region.getCommonAttrsProxy()->rmAttribute("a");
+        QCOMPARE(region.getCommonAttrsProxy()->getAttribute("a"), QString());
+        QCOMPARE(region.getCommonAttrsProxy()->getRefElem(), static_cast<VySmilElemBase *>(&region));
+        QVERIFY(!region.getCommonAttrsProxy()->getAttribute("a").isNull());
+    }
+
+    void lookupsFilterByName()
+    {
+        VySmilElemBody body;
+        for (const char *name : {"par", "img", "par"})
+            addChild(body, name);
+        QCOMPARE(body.getSubElementsCount(), 3u);
+        QCOMPARE(body.getSubElementCounts("par"), 2u);
+        QCOMPARE(body.getSubElementCounts(""), 0u);
+        addChild(body, "");
+        QCOMPARE(body.getSubElementCounts(""), 1u);
+        QCOMPARE(body.getSubElement(1, "par"), body.getSubElements()->at(2));
+        QCOMPARE(body.getSubElement(1, ""), body.getSubElements()->at(1));
+        QVERIFY(!body.getSubElement(2, "par") && !body.getSubElement(4, "") && !body.getSubElement(0, "PAR"));
+        QVERIFY(!body.getSubElement(0xffffffffu, ""));
+        QVERIFY(body.rmSubElement(0, "img"));
+        QVERIFY(!body.rmSubElement(0, "img"));
+        QVERIFY(body.rmSubElement(2, ""));
+        QCOMPARE(treeText(body), QString("body(par par)"));
+    }
+
+    void headAndBodyAreFoundAnywhere()
+    {
+        VySmilElemSmil root;
+        QVERIFY(!root.getHead() && !root.getBody());
+        VySmilElemBase *body = addChild(root, "body");
+        VySmilElemBase *head = addChild(root, "head");
+        addChild(root, "head");
+        QCOMPARE(root.getHead(), head);
+        QCOMPARE(root.getBody(), body);
+    }
+
+    void listKeepsItsRules()
+    {
+        int destroyed = 0;
+        VySmilElemList list;
+        QVERIFY(!list.autoDelete() && list.isEmpty());
+        list.append(nullptr);
+        list.insert(0, nullptr);
+        auto *first = new CountingElem(destroyed);
+        auto *second = new CountingElem(destroyed);
+        list.insert(7, second);
+        list.insert(0, first);
+        QCOMPARE(list.count(), qsizetype(2));
+        QVERIFY(list.at(0) == first && list.at(1) == second);
+        QVERIFY(!list.at(-1) && !list.at(2) && !list.take(2) && !list.remove(-1));
+        QVERIFY(list.remove(0));
+        QCOMPARE(destroyed, 0);
+        delete first;
+        list.setAutoDelete(true);
+        QCOMPARE(list.take(0), static_cast<VySmilElemBase *>(second));
+        QCOMPARE(destroyed, 1);
+        list.append(second);
+        QVERIFY(list.remove(0));
+        QCOMPARE(destroyed, 2);
+        list.append(new CountingElem(destroyed));
+        list.clear();
+        QCOMPARE(destroyed, 3);
+    }
+
+    void everyElementIsDestroyedOnce()
+    {
+        int destroyed = 0;
+        int childrenSeen = 0;
+        {
+            CountingElem root(destroyed, &childrenSeen);
+            for (int i = 0; i < 3; ++i) {
+                auto *child = new CountingElem(destroyed, &childrenSeen);
+                root.getSubElements()->append(child);
+                child->getSubElements()->append(new CountingElem(destroyed));
+            }
+            QVERIFY(root.rmSubElement(1, ""));
+            QCOMPARE(destroyed, 2);
+            const std::unique_ptr<VySmilElemBase> taken(root.getSubElements()->take(0));
+            QCOMPARE(destroyed, 2);
+        }
+        QCOMPARE(destroyed, 7);
+        // A destructor of the client's still sees the children of its element.
+        QCOMPARE(childrenSeen, 4);
+    }
+
+    void setSubElementsTakesOver()
+    {
+        int destroyed = 0;
+        VySmilElemBody body;
+        auto *kept = new CountingElem(destroyed);
+        body.getSubElements()->append(kept);
+        body.getSubElements()->append(new CountingElem(destroyed));
+        {
+            VySmilElemList list;
+            list.append(new CountingElem(destroyed));
+            list.append(kept);
+            body.getSubElements()->setAutoDelete(true);
+            body.setSubElements(list);
+            QCOMPARE(list.count(), qsizetype(2));
+        }
+        QCOMPARE(destroyed, 1);
+        QCOMPARE(body.getSubElements()->at(1), static_cast<VySmilElemBase *>(kept));
+        body.getSubElements()->setAutoDelete(false);
+        body.setSubElements(*body.getSubElements());
+        QVERIFY(body.getSubElements()->autoDelete());
+        QCOMPARE(body.getSubElementsCount(), 2u);
+        // The children of a child may replace it.
+        VySmilElemBase *par = addChild(body, "par");
+        VySmilElemBase *img = addChild(*par, "img");
+        par->getSubElements()->setAutoDelete(false);
+        body.setSubElements(*par->getSubElements());
+        QCOMPARE(destroyed, 3);
+        QCOMPARE(body.getSubElements()->at(0), img);
+    }
+
+    void copiesAreDeepAndAppended()
+    {
+        VySmilElemSmil source;
+        source.setAttribute("a", "1");
+        VySmilElemBase *foo = addChild(*addChild(source, "body"), "Foo");
+        foo->setAttribute("b", "2");
+        addChild(*foo, "img");
+        source.getSubElements()->setAutoDelete(false);
+
+        VySmilElemSmil target;
+        target.setAttribute("old", "x");
+        addChild(target, "head");
+        target.copyFrom(source);
+        QCOMPARE(treeText(target), QString("smil[a=1](head body(?Foo[b=2](img)))"));
+        QVERIFY(!target.getSubElements()->autoDelete());
+        QVERIFY(target.getSubElements()->at(1)->getSubElements()->autoDelete());
+        target.getSubElements()->setAutoDelete(true);
+        source.getSubElements()->setAutoDelete(true);
+
+        const VySmilElemSmil copy(source);
+        source.copyFrom(source);
+        QCOMPARE(treeText(copy), treeText(source));
+        foo->setAttribute("b", "3");
+        QCOMPARE(treeText(copy), QString("smil[a=1](body(?Foo[b=2](img)))"));
+
+        // A child may take a copy of its own ancestor; it has the new attributes before the copy is made.
+        foo->copyFrom(source);
+        QCOMPARE(treeText(*foo), QString("?[a=1](img body(?[a=1](img)))"));
+    }
+
+    void depthCostsNoStack()
+    {
+        constexpr int depth = 200'000;
+        VySmilElemSmil root;
+        VySmilElemBase *deepest = &root;
+        for (int i = 0; i < depth; ++i)
+            deepest = addChild(*deepest, "par");
+        const VySmilElemSmil copy(root);
+        QString text;
+        QString copiedText;
+        QCOMPARE(root.toString(text, true, nullptr, VySmil::SMIL_VER_DEFAULT), 0);
+        QCOMPARE(copy.toString(copiedText, true, nullptr, VySmil::SMIL_VER_DEFAULT), 0);
+        QCOMPARE(text.size(), qsizetype(depth) * 13 + 15);
+        QVERIFY(text == copiedText);
+        QVERIFY(root.rmSubElement(0, "par"));
+    }
+
+    // fromDomElem() takes DOMs that no document gives, with names that are no XML names.
+    void readsAnyDom()
+    {
+        QDomDocument dom;
+        QDomElement elem = dom.createElement("par");
+        elem.setAttribute(" dur ", " 5s ");
+        elem.setAttribute(" ", "blank");
+        elem.setAttribute("nohref", "");
+        elem.appendChild(dom.createElement(" foo "));
+        elem.appendChild(dom.createTextNode("text"));
+        elem.appendChild(dom.createElement("img"));
+
+        VySmilElemPar par;
+        par.setAttribute("kept", "1");
+        VySmil::STATUS_CODE status = VySmil::STATUS_OK;
+        QCOMPARE(par.fromDomElem(elem, false, &status, VySmil::SMIL_VER_DEFAULT), 0);
+        QCOMPARE(status, VySmil::STATUS_INVALID_ATTR);
+        QCOMPARE(treeText(par), QString("par[dur=5s kept=1 nohref=nohref](? foo  img)"));
+        VySmilElemMediaObjImg img;
+        QCOMPARE(img.fromDomElem(elem, false, nullptr, VySmil::SMIL_VER_DEFAULT), 3);
+        QCOMPARE(treeText(img), QString("img"));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestVySmilElemBase)
+#include "tst_vysmilelembase.moc"

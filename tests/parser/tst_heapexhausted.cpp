@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#include "../support/treetext.h"
+
+#include <VySmil/parser/vysmilparser.h>
+
+#include <QTest>
+
+#include <new>
+
+namespace {
+int allocationsLeft = -1; // counts down to the one that fails; below 0 none does
+}
+
+// Elements, and nothing else here, are allocated by this operator.
+void *operator new(std::size_t size, const std::nothrow_t &) noexcept
+{
+    if (allocationsLeft >= 0 && allocationsLeft-- == 0)
+        return nullptr;
+    try {
+        return ::operator new(size);
+    } catch (const std::bad_alloc &) {
+        return nullptr;
+    }
+}
+
+class TestHeapExhausted : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readingGivesUp_data()
+    {
+        QTest::addColumn<int>("allocations");
+        QTest::addColumn<QString>("tree");
+        QTest::newRow("first child") << 0 << "smil[old=1]";
+        QTest::newRow("grandchild") << 1 << "smil[old=1]";
+        QTest::newRow("second child") << 2 << "smil[old=1](head(layout))";
+        QTest::newRow("unknown in second child") << 3 << "smil[old=1](head(layout))";
+    }
+    void readingGivesUp()
+    {
+        QFETCH(int, allocations);
+        QFETCH(QString, tree);
+        for (const bool strict : {false, true}) {
+            VySmilElemSmil root;
+            root.setAttribute("old", "1");
+            VySmil::STATUS_CODE status = VySmil::STATUS_INVALID_ATTR;
+            allocationsLeft = allocations;
+            const int result = VySmilParser::parse("<smil><head><layout/></head><body><foo/></body></smil>",
+                                                   &root, strict, &status, VySmil::SMIL_VER_DEFAULT);
+            allocationsLeft = -1;
+            QCOMPARE(result, int(VySmil::RESULT_NO_OBJECT));
+            QCOMPARE(status, VySmil::STATUS_OK);
+            QCOMPARE(treeText(root), tree);
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(TestHeapExhausted)
+#include "tst_heapexhausted.moc"

@@ -1,0 +1,414 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#include "../support/treetext.h"
+
+#include <VySmil/VySmil>
+
+#include <QDir>
+#include <QDomDocument>
+#include <QRandomGenerator>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+const auto noVersion = static_cast<VySmil::SMIL_VERSION>(7);
+
+/// A read document as one line: result, status and tree.
+QString readText(const QString &text, VySmilElemSmil &root, bool strict,
+                 VySmil::SMIL_VERSION version = VySmil::SMIL_VER_DEFAULT)
+{
+    auto status = static_cast<VySmil::STATUS_CODE>(99);
+    const int result = VySmilParser::parse(text, &root, strict, &status, version);
+    return QStringLiteral("%1 %2 %3").arg(result).arg(status).arg(treeText(root));
+}
+
+/// A written tree: result and status in front of the text, which is appended to what is there.
+QString writtenText(const VySmilElemBase &elem, bool strict,
+                    VySmil::SMIL_VERSION version = VySmil::SMIL_VER_DEFAULT)
+{
+    QString out = QStringLiteral("^");
+    auto status = VySmil::STATUS_OK;
+    const int result = elem.toString(out, strict, &status, version);
+    return QStringLiteral("%1 %2 %3").arg(result).arg(status).arg(out.replace(u'\n', u'~'));
+}
+
+QString around(const QString &content)
+{
+    return "<smil>" + content + "</smil>";
+}
+
+QString nested(int depth)
+{
+    return QString("<par>").repeated(depth) + QString("</par>").repeated(depth);
+}
+
+QString attributes(int count)
+{
+    QString text;
+    for (int i = 0; i < count; ++i)
+        text += QString(" a%1='>'").arg(i);
+    return text;
+}
+
+QString randomValue(QRandomGenerator &random)
+{
+    static const char16_t awkward[] = {
+        u'a',   u'"',   u'\'',  u'&',   u'<',   u'>',   u';', u' ',   u'\t',  u'\n',  u'\r',
+        u'\0',  0x01,   0x0b,   0x1f,   0x7f,   0x85,   0xa0, 0x2028, 0xd83d, 0xde00, 0xd800,
+        0xdc00, 0xfdd0, 0xfeff, 0xfffd, 0xfffe, 0xffff, u']', u'-',   u'%',   0x00e9, u'#',
+    };
+    QString value;
+    for (int length = random.bounded(9); length > 0; --length)
+        value += QChar(awkward[random.bounded(int(std::size(awkward)))]);
+    return value;
+}
+
+/// What a value is once it was written and read.
+QString carried(const QString &value)
+{
+    QString text = value.trimmed();
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char16_t c = text[i].unicode();
+        if (text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate())
+            ++i;
+        else if (QChar::isSurrogate(c) || c >= 0xfffe || (c < 0x20 && c != '\t' && c != '\n' && c != '\r'))
+            text[i] = QChar::ReplacementCharacter;
+    }
+    return text;
+}
+
+/// Grows the same tree twice: with random values, and with what is left of them after writing and reading.
+void grow(VySmilElemBase &elem, VySmilElemBase &expected, int depth, QRandomGenerator &random)
+{
+    for (const char *name :
+         {"left", "width", "fit", "id", "content", "name", "dur", "src", "alt", "region"}) {
+        const QString value = randomValue(random);
+        if (!elem.isValidAttr(name, VySmil::SMIL_VER_DEFAULT) || random.bounded(3) == 0)
+            continue;
+        elem.setAttribute(name, value);
+        if (!carried(value).isEmpty())
+            expected.setAttribute(name, carried(value));
+    }
+    static const char *const names[] = {"head", "body",  "layout", "root-layout", "region", "meta", "par",
+                                        "img",  "audio", "text",   "video",       "ref",    "smil"};
+    for (int i = depth > 0 ? random.bounded(5) : 0; i > 0; --i) {
+        const QString name = names[random.bounded(int(std::size(names)))];
+        VySmilElemBase *child = VySmilElemBase::newElem(name);
+        VySmilElemBase *expectedChild = VySmilElemBase::newElem(name);
+        elem.getSubElements()->append(child);
+        expected.getSubElements()->append(expectedChild);
+        grow(*child, *expectedChild, depth - 1, random);
+    }
+}
+
+} // namespace
+
+class TestVySmilParser : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void reads_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("strict");
+        QTest::addColumn<QString>("loose");
+        const auto row = [](const char *name, const QString &text, const char *strict, const char *loose) {
+            QTest::newRow(name) << text << QString(strict) << QString(loose);
+        };
+        // The root has the attribute "old" and the child "meta" before each reading.
+        const char *const untouched = "3 0 smil[old=1](meta)";
+        const char *const refused = "-1 0 smil[old=1]";
+        row("empty", "", untouched, untouched);
+        row("blank", QString(" \n\t") + QChar(0xa0), untouched, untouched);
+        row("no xml", "hello", refused, refused);
+        row("cut off", "<smil><body>", refused, refused);
+        row("two roots", "<smil/><smil/>", refused, refused);
+        row("attribute twice", "<smil><par dur='1' dur='2'/></smil>", refused, refused);
+        row("nothing in it", "<smil/>", "0 0 smil[old=1]", "0 0 smil[old=1]");
+        row("whole",
+            around("<head><layout><region id='I' width=' 5 '/></layout></head><body><par dur='5s'>"
+                   "<img src='a&amp;b&#x20AC;'/>text<!-- note --><?pi?><![CDATA[<par/>]]></par></body>"),
+            "0 0 smil[old=1](head(layout(region[id=I width=5])) body(par[dur=5s](img[src=a&b€])))",
+            "0 0 smil[old=1](head(layout(region[id=I width=5])) body(par[dur=5s](img[src=a&b€])))");
+        row("before the root", "junk <?xml version='1.0'?><!DOCTYPE smil [<!ENTITY e 'x'>]>  <smil/> ",
+            "0 0 smil[old=1]", "0 0 smil[old=1]");
+        row("root in a comment", "<!-- <smil --><smil/>", refused, refused);
+        row("capital root", "<SMIL><body/></SMIL>", "3 0 smil[old=1]", "3 0 smil[old=1]");
+        row("other root", "<?xml version='1.0'?><html/>", "3 0 smil[old=1]", "3 0 smil[old=1]");
+        row("longer root", "<smilx/>", "3 0 smil[old=1]", "3 0 smil[old=1]");
+        row("root attribute", "<smil xmlns='x' old='2' a='3'><body/></smil>", "2 2 smil[old=1]",
+            "0 2 smil[a=3 old=2 xmlns=x](body)");
+        row("unknown child", around("<head/><body><par><foo b='1'><img/></foo></par></body>"),
+            "1 1 smil[old=1](head)", "0 1 smil[old=1](head body(par(?foo[b=1](img))))");
+        row("capital child", around("<head/><body><PAR dur='1'><img/></PAR><par/></body>"),
+            "3 0 smil[old=1](head)", "0 0 smil[old=1](head body(par par))");
+        row("bad attribute", around("<head/><body><par dur='1s' foo='2'><img/></par></body>"),
+            "2 2 smil[old=1](head)", "0 2 smil[old=1](head body(par[dur=1s foo=2](img)))");
+        row("last finding counts", around("<foo/><par x='1'/><bar/><body/>"), "1 1 smil[old=1]",
+            "0 1 smil[old=1](?foo par[x=1] ?bar body)");
+        row("attributes before children", around("<par x='1'><foo/></par>"), "2 2 smil[old=1]",
+            "0 1 smil[old=1](par[x=1](?foo))");
+        row("empty value", around("<par dur=' &#9;' bad=''/>"), "2 2 smil[old=1]", "0 2 smil[old=1](par)");
+        row("nohref", around("<region nohref='' id='r'/>"), "2 2 smil[old=1]",
+            "0 2 smil[old=1](region[id=r nohref=nohref])");
+        row("references in values", around("<img alt='&quot;&lt;&#10;&gt;'/>"),
+            "0 0 smil[old=1](img[alt=\"<\n>])", "0 0 smil[old=1](img[alt=\"<\n>])");
+    }
+    void reads()
+    {
+        QFETCH(QString, text);
+        for (const char *mode : {"strict", "loose"}) {
+            QFETCH(QString, strict);
+            QFETCH(QString, loose);
+            const bool isStrict = qstrcmp(mode, "strict") == 0;
+            VySmilElemSmil root;
+            root.setAttribute("old", "1");
+            root.getSubElements()->append(VySmilElemBase::newElem("meta"));
+            QCOMPARE(readText(text, root, isStrict), isStrict ? strict : loose);
+            // Reading again replaces what the first reading left, but for the attributes.
+            readText(text, root, isStrict);
+            QCOMPARE(readText(text, root, isStrict), isStrict ? strict : loose);
+        }
+        QCOMPARE(VySmilParser::parse(text, nullptr, true, nullptr, VySmil::SMIL_VER_DEFAULT), 3);
+    }
+
+    // Attributes are handled in ascending order of their names, whatever the order in the document.
+    void strictStopsKeepEarlierAttributes()
+    {
+        for (const char *order : {"alt='1' bad='2' src='3'", "src='3' bad='2' alt='1'"}) {
+            QDomDocument dom;
+            QVERIFY(dom.setContent(QString("<img %1/>").arg(order)));
+            VySmilElemMediaObjImg img;
+            QCOMPARE(img.fromDomElem(dom.documentElement(), true, nullptr, VySmil::SMIL_VER_DEFAULT), 2);
+            QCOMPARE(treeText(img), QString("img[alt=1]"));
+        }
+    }
+
+    void nullRootStillResetsTheStatus()
+    {
+        VySmil::STATUS_CODE status = VySmil::STATUS_INVALID_ELEMENT;
+        QCOMPARE(VySmilParser::parse("<smil/>", nullptr, true, &status, VySmil::SMIL_VER_DEFAULT), 3);
+        QCOMPARE(status, VySmil::STATUS_OK);
+    }
+
+    void unknownVersions()
+    {
+        VySmilElemSmil root;
+        const QString text = around("<head id='h'/><body><par dur='1s'/></body>");
+        QCOMPARE(readText(text, root, true, noVersion), QString("1 1 smil"));
+        QCOMPARE(readText(text, root, false, noVersion), QString("0 2 smil(head[id=h] body(par[dur=1s]))"));
+        QCOMPARE(writtenText(root, true, noVersion), QString("1 1 ^"));
+        QVERIFY(writtenText(root, false, noVersion).startsWith("0 2 ^<smil>~<head id=\"h\">~"));
+    }
+
+    void bounds_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("isRead");
+        const int depth = VySmilParser::MAX_DEPTH;
+        const int most = VySmilParser::MAX_ATTRIBUTES;
+        const QString deep = QString("<par>").repeated(2 * depth);
+        QTest::newRow("depth 256") << around(nested(depth - 1)) << true;
+        QTest::newRow("depth 257") << around(nested(depth)) << false;
+        QTest::newRow("depth 256, again") << around(nested(depth - 1).repeated(3)) << true;
+        QTest::newRow("empty element at 256")
+            << around(QString("<par>").repeated(depth - 2) + "<img/><img a='/'/>" +
+                      QString("</par>").repeated(depth - 2))
+            << true;
+        QTest::newRow("empty element at 257") << around(QString("<par>").repeated(depth - 1) + "<img />" +
+                                                        QString("</par>").repeated(depth - 1))
+                                              << false;
+        QTest::newRow("many children") << around(QString("<par/>").repeated(1000)) << true;
+        QTest::newRow("256 attributes") << around("<par" + attributes(most) + "/>") << true;
+        QTest::newRow("257 attributes") << around("<par" + attributes(most + 1) + "/>") << false;
+        QTest::newRow("256 twice") << around(("<par" + attributes(most) + "></par>").repeated(2)) << true;
+        QTest::newRow("markup in a comment") << around("<!--" + deep + "\"'-->") << true;
+        QTest::newRow("comment opened in a comment")
+            << around("<!-- <!- <![CDATA[ <? -->" + nested(depth)) << false;
+        QTest::newRow("comment end shared with its start") << around("<!-->" + deep + "-->") << true;
+        QTest::newRow("markup in CDATA") << around("<![CDATA[" + deep + "'<!--]]>") << true;
+        QTest::newRow("markup after CDATA") << around("<![CDATA[]]]]>" + nested(depth)) << false;
+        QTest::newRow("markup in a PI") << around("<?x " + deep + "'>?>") << true;
+        QTest::newRow("quotes in text") << around("it's \"" + nested(3) + "'>") << true;
+        QTest::newRow("markup in values") << around("<par a='/>' b=\"'[\" dur='\"&lt;!--'></par>") << true;
+        QTest::newRow("doctype") << "<!DOCTYPE x SYSTEM '[\"'><x/>" << true;
+        QTest::newRow("internal subset") << "<!DOCTYPE x SYSTEM '\"' []><x/>" << false;
+        QTest::newRow("entities") << "<!DOCTYPE x [<!ENTITY a 'b'>]><x a='&a;'/>" << false;
+        QTest::newRow("subset behind a PI")
+            << "<?xml version='1.0'?><!-- '[' --><!DOCTYPE x [ ]><x/>" << false;
+    }
+    void bounds()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, isRead);
+        VySmilElemSmil root;
+        const int result = VySmilParser::parse(text, &root, false, nullptr, VySmil::SMIL_VER_DEFAULT);
+        // A root other than "smil" is refused after the DOM was built.
+        QCOMPARE(result, !isRead ? -1 : text.startsWith("<smil") ? 0 : 3);
+    }
+
+    // Text that a quadratic reader would chew on for minutes.
+    void hostileTextIsRefusedSoon()
+    {
+        VySmilElemSmil root;
+        const auto status = [&root](const QString &text) {
+            return VySmilParser::parse(text, &root, false, nullptr, VySmil::SMIL_VER_DEFAULT);
+        };
+        QCOMPARE(status(QString("<smil>").repeated(500'000)), -1);
+        QCOMPARE(status("<smil" + attributes(300'000) + "/>"), -1);
+        QCOMPARE(status("<smil " + QString("'\"").repeated(300'000)), -1);
+        QCOMPARE(status("<smil><!" + QString("<!").repeated(300'000)), -1);
+    }
+
+    void writes_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("strict");
+        QTest::addColumn<QString>("loose");
+        const auto row = [](const char *name, const QString &text, const char *strict, const char *loose) {
+            QTest::newRow(name) << text << QString(strict) << QString(loose);
+        };
+        row("nothing in it", "<smil/>", "0 0 ^<smil>~</smil>~", "0 0 ^<smil>~</smil>~");
+        row("name order", around("<body><img src='b' alt='a'/><par/></body>"),
+            "0 0 ^<smil>~<body>~<img alt=\"a\" src=\"b\">~</img>~<par>~</par>~</body>~</smil>~",
+            "0 0 ^<smil>~<body>~<img alt=\"a\" src=\"b\">~</img>~<par>~</par>~</body>~</smil>~");
+        row("escapes", around("<img alt='&amp;&lt;&gt;&quot;&apos;&#9;&#10;&#13;.'/>"),
+            "0 0 ^<smil>~<img alt=\"&amp;&lt;>&quot;'&#9;&#10;&#13;.\">~</img>~</smil>~",
+            "0 0 ^<smil>~<img alt=\"&amp;&lt;>&quot;'&#9;&#10;&#13;.\">~</img>~</smil>~");
+        row("unknown element", around("<body><foo><img/></foo></body>"), "1 1 ^<smil>~<body>~",
+            "0 1 ^<smil>~<body>~<foo>~<img>~</img>~</foo>~</body>~</smil>~");
+        row("bad attribute", around("<par dur='5s' foo='1'><img/></par>"), "2 2 ^<smil>~<par dur=\"5s\"",
+            "0 2 ^<smil>~<par dur=\"5s\" foo=\"1\">~<img>~</img>~</par>~</smil>~");
+        row("nohref", around("<region nohref='x' top='1'/>"), "2 2 ^<smil>~<region",
+            "0 2 ^<smil>~<region nohref top=\"1\">~</region>~</smil>~");
+    }
+    void writes()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, strict);
+        QFETCH(QString, loose);
+        VySmilElemSmil root;
+        VySmilParser::parse(text, &root, false, nullptr, VySmil::SMIL_VER_DEFAULT);
+        QCOMPARE(writtenText(root, true), strict);
+        QCOMPARE(writtenText(root, false), loose);
+        QString out = QStringLiteral("kept");
+        QCOMPARE(VySmilParser::assemble(nullptr, out, false, nullptr, VySmil::SMIL_VER_DEFAULT), 3);
+        QCOMPARE(out, QStringLiteral("kept"));
+        QCOMPARE(VySmilParser::assemble(&root, out, false, nullptr, VySmil::SMIL_VER_DEFAULT), 0);
+        QVERIFY(out.startsWith("kept<smil"));
+    }
+
+    void blanksAroundStoredTexts_data()
+    {
+        QTest::addColumn<QStringList>("entries");
+        QTest::addColumn<QString>("written");
+        QTest::newRow("trimmed") << QStringList{" dur", " 5s "} << " dur=\"5s\"";
+        QTest::newRow("blank value") << QStringList{"dur", " \n"} << "";
+        QTest::newRow("trimmed name wins")
+            << QStringList{" dur", "1", "dur", "2", "dur ", "3"} << " dur=\"2\"";
+        QTest::newRow("but not without a value")
+            << QStringList{" dur", "1", "dur", " ", "dur ", "3"} << " dur=\"1\"";
+        QTest::newRow("first with a value")
+            << QStringList{"  dur", "", " dur", "2", "dur ", "3"} << " dur=\"2\"";
+        QTest::newRow("controls") << QStringList{"dur", QString("a\x1") + QChar(0xd800) + QChar(0xffff)}
+                                  << QString(" dur=\"a%1%1%1\"").arg(QChar(0xfffd));
+    }
+    void blanksAroundStoredTexts()
+    {
+        QFETCH(QStringList, entries);
+        QFETCH(QString, written);
+        VySmilElemPar par;
+        for (qsizetype i = 0; i < entries.size(); i += 2)
+            par.setAttribute(entries[i], entries[i + 1]);
+        QCOMPARE(writtenText(par, true), "0 0 ^<par" + written + ">~</par>~");
+        par.setAttribute(" ", "x");
+        QCOMPARE(writtenText(par, true), QString("2 2 ^<par"));
+        QCOMPARE(writtenText(par, false), "0 2 ^<par" + written + ">~</par>~");
+    }
+
+    // A class of the client's may write itself, and end the walk.
+    void clientElementsAreAsked()
+    {
+        struct Failing : VySmilElemUnknown
+        {
+            explicit Failing(int code) : result(code) { setElemType("par"); }
+            int toString(QString &out, bool, VySmil::STATUS_CODE *, VySmil::SMIL_VERSION) const override
+            {
+                out += u'!';
+                return result;
+            }
+            int result;
+        };
+        for (const int result : {-7, 0, 7}) {
+            VySmilElemSmil root;
+            root.getSubElements()->append(new Failing(result));
+            const QString stopped = QString("%1 0 ^<smil>~!").arg(result);
+            const QString whole = "0 0 ^<smil>~!</smil>~";
+            QCOMPARE(writtenText(root, true), result == 0 ? whole : stopped);
+            QCOMPARE(writtenText(root, false), result < 0 ? stopped : whole);
+        }
+    }
+
+    void writtenTreesReadBack()
+    {
+        QRandomGenerator random(20261122);
+        for (int i = 0; i < 400; ++i) {
+            VySmilElemSmil tree;
+            VySmilElemSmil expected;
+            grow(tree, expected, 5, random);
+            QString text;
+            VySmil::STATUS_CODE status = VySmil::STATUS_OK;
+            QCOMPARE(VySmilParser::assemble(&tree, text, true, &status, VySmil::SMIL_VER_DEFAULT), 0);
+            QCOMPARE(status, VySmil::STATUS_OK);
+            VySmilElemSmil readBack;
+            QCOMPARE(readText(text, readBack, true), "0 0 " + treeText(expected));
+            QString again;
+            VySmilParser::assemble(&readBack, again, true, nullptr, VySmil::SMIL_VER_DEFAULT);
+            QCOMPARE(again, text);
+        }
+    }
+
+    // Each document of the corpus has its answer beside it: strict and loose reading, then the text written.
+    void corpus_data()
+    {
+        QTest::addColumn<QString>("path");
+        const QDir dir(CORPUS);
+        const QStringList names = dir.entryList({"*.smil"});
+        QVERIFY(!names.isEmpty());
+        for (const QString &name : names)
+            QTest::newRow(qPrintable(name)) << dir.filePath(name);
+    }
+    void corpus()
+    {
+        QFETCH(QString, path);
+        const auto contents = [](const QString &name) {
+            QFile file(name);
+            return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+        };
+        const QString text = contents(path);
+        VySmilElemSmil root;
+        QString answer = readText(text, root, true) + u'\n';
+        answer += readText(text, root, false) + u'\n';
+        VySmilParser::assemble(&root, answer, false, nullptr, VySmil::SMIL_VER_DEFAULT);
+        QCOMPARE(answer, contents(path.chopped(4) + "answer"));
+    }
+
+    // Whatever a document is cut down to, it is read or refused, never half of each.
+    void everyPrefixIsSafe()
+    {
+        const QString text =
+            "<?xml version='1.0'?>" + around("<body><par a='&lt;'/><!-- x --><![CDATA[x]]></body>");
+        for (qsizetype length = 0; length < text.size(); ++length) {
+            VySmilElemSmil root;
+            const QString expected = length == 0 ? "3 0 smil" : "-1 0 smil";
+            QCOMPARE(readText(text.left(length), root, false), expected);
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(TestVySmilParser)
+#include "tst_vysmilparser.moc"

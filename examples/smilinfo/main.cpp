@@ -45,6 +45,51 @@ QString inWords(VySmil::STATUS_CODE status)
     }
 }
 
+QString inWords(const VySmil::VyLength &length)
+{
+    switch (length.unit) {
+    case VySmil::UNIT_PIXELS:
+        return QStringLiteral("%1 pixels").arg(length.value.pixels);
+    case VySmil::UNIT_PERCENT:
+        return QStringLiteral("%1 percent").arg(static_cast<double>(length.value.percent));
+    default:
+        return QStringLiteral("no length");
+    }
+}
+
+QString inWords(const VySmil::VyTime &time)
+{
+    static const char *const kinds[] = {
+        "offset", "sync-base",  "event",           "repeat",     "access key", "media marker", "wall-clock",
+        "clock",  "plain text", "SMPTE time code", "percentage", "indefinite", "empty"};
+    QString text = QStringLiteral("%1 time %2").arg(QLatin1String(kinds[time.timeType]), time.toString());
+    const VySmil::VyTimeClock &clock = time.clockTime;
+    if (time.timeType == VySmil::VyTime::TIME_CLOCK &&
+        clock.clockType == VySmil::VyTimeClock::CLOCK_TIMECOUNT)
+        text += QStringLiteral(", %1 ms").arg(clock.timeCount.toMilliSeconds());
+    return text;
+}
+
+template <typename Value>
+QString reading(const QString &text)
+{
+    Value value;
+    const int result = value.fromString(text);
+    return QStringLiteral("    (%1)").arg(inWords(value)) +
+           (result == VySmil::RESULT_OK ? QString() : QStringLiteral("    <-- does not read"));
+}
+
+// What the library makes of an attribute that has a type, or nothing.
+QString typedReading(const QString &name, const QString &text)
+{
+    static const QStringList lengths{QStringLiteral("width"), QStringLiteral("height"),
+                                     QStringLiteral("left"), QStringLiteral("top")};
+    static const QStringList times{QStringLiteral("begin"), QStringLiteral("end"), QStringLiteral("dur")};
+    if (lengths.contains(name))
+        return reading<VySmil::VyLength>(text);
+    return times.contains(name) ? reading<VySmil::VyTime>(text) : QString();
+}
+
 void printTree(QTextStream &out, const VySmilElemBase &elem, int indent)
 {
     const QString margin(qsizetype(2) * indent, u' ');
@@ -55,7 +100,9 @@ void printTree(QTextStream &out, const VySmilElemBase &elem, int indent)
     const QMap<QString, QString> attributes = elem.getAttributes();
     for (auto it = attributes.begin(); it != attributes.end(); ++it) {
         out << margin << "  @" << it.key() << " = \"" << it.value() << '"';
-        if (!elem.isValidAttr(it.key(), version))
+        if (elem.isValidAttr(it.key(), version))
+            out << typedReading(it.key(), it.value());
+        else
             out << "    <-- unknown attribute";
         out << '\n';
     }

@@ -8,7 +8,14 @@
 
 #include <QtGlobal>
 
-/// Scope of the enums that the whole library shares.
+/// Scope of the enums that the whole library shares, and of the value types.
+///
+/// Every value type reads a text with fromString(), which gives RESULT_OK (also for a blank text, which means
+/// no value) or RESULT_UNUSABLE, and prints with toString(), which never fails. Reading ignores blanks at
+/// both ends, stores each field as soon as it has read it and rolls nothing back: what a failed read leaves
+/// is documented with each type, since clients keep it. A number that fails leaves 0 in an integer field, and
+/// in a float field the number that the text begins with, or 0. No reading or printing depends on the locale
+/// of the user.
 ///
 /// All enums have the underlying type qint32 and may hold a number outside their list, for instance the
 /// number of a SMIL version that this library does not know.
@@ -40,6 +47,42 @@ public:
         RESULT_MALFORMED = -1, ///< the text is not well-formed XML, or exceeds the bounds of VySmilParser
         RESULT_NO_OBJECT = -2, ///< the heap is exhausted: a child element could not be created
     };
+
+    /// How the number of a length, size or coordinate is meant.
+    enum UNIT_KIND : qint32 {
+        UNIT_PIXELS = 0,  ///< whole pixels
+        UNIT_PERCENT = 1, ///< a percentage
+        UNIT_NONE = 2,    ///< no value
+    };
+
+    /// How the number of a media length or bandwidth is meant.
+    enum NUMBER_KIND : qint32 {
+        NUMBER_ABSOLUTE = 0, ///< the number itself
+        NUMBER_PERCENT = 1,  ///< a percentage
+        NUMBER_NONE = 2,     ///< no value
+    };
+
+    class VyCount;
+    class VyIndex;
+    class VyMediaLength;
+    class VyBandWidth;
+    class VyLength;
+    class VySize;
+    class VyCoords;
+    class VyColor;
+    class VyTimeCount;
+    class VyTimeFullClock;
+    class VyTimePartialClock;
+    class VyTimeClock;
+    class VyTimeOffset;
+    class VyTimeSmpte;
+    class VyTimeSycBase;
+    class VyTimeEvent;
+    class VyTimeRepeat;
+    class VyTimeAccessKey;
+    class VyTimeMediaMarker;
+    class VyWallClockSyncTime;
+    class VyTime;
 };
 
 #endif

@@ -13,3 +13,13 @@ bool VySmilAttrCommon::isValidAttr(const QString &name, VySmil::SMIL_VERSION ver
     Q_UNUSED(version)
     return name == QLatin1String("id");
 }
+
+QString VySmilAttrCommon::getId() const
+{
+    return getAttribute(QStringLiteral("id"));
+}
+
+void VySmilAttrCommon::setId(const QString &id)
+{
+    setAttribute(QStringLiteral("id"), id);
+}

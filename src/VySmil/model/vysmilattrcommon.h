@@ -15,6 +15,11 @@ public:
 
     /// Whether \a name belongs to the group, under any version.
     bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const;
+
+    /// The identifier, empty if there is none.
+    QString getId() const;
+    /// Stores \a id unchanged.
+    void setId(const QString &id);
 };
 
 #endif

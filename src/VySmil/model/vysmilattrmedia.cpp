@@ -13,3 +13,13 @@ bool VySmilAttrMedia::isValidAttr(const QString &name, VySmil::SMIL_VERSION vers
     Q_UNUSED(version)
     return name == QLatin1String("src");
 }
+
+QString VySmilAttrMedia::getSrc() const
+{
+    return getAttribute(QStringLiteral("src"));
+}
+
+void VySmilAttrMedia::setSrc(const QString &src)
+{
+    setAttribute(QStringLiteral("src"), src);
+}

@@ -15,6 +15,11 @@ public:
 
     /// Whether \a name belongs to the group, under any version.
     bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const;
+
+    /// The location of the media, empty if there is none.
+    QString getSrc() const;
+    /// Stores \a src unchanged.
+    void setSrc(const QString &src);
 };
 
 #endif

@@ -6,8 +6,13 @@
 
 #include <VySmil/model/vysmil.h>
 #include <VySmil/model/vysmilattrbase.h>
+#include <VySmil/time/vytime.h>
 
 /// The attributes "begin", "end" and "dur" (W3C SMIL 2.0, Timing and Synchronization).
+///
+/// A typed getter gives what reading the stored text leaves, without a word if that text does not read, and
+/// the empty value for an absent attribute. A typed setter stores the printed text, an empty one for an empty
+/// value.
 class VYSMIL_EXPORT VySmilAttrTiming : public VySmilAttrBase
 {
 public:
@@ -15,6 +20,19 @@ public:
 
     /// Whether \a name belongs to the group, under any version.
     bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const;
+
+    /// When the element begins.
+    VySmil::VyTime getBegin() const;
+    /// Stores the text of \a time.
+    void setBegin(const VySmil::VyTime &time);
+    /// When the element ends at the latest.
+    VySmil::VyTime getEnd() const;
+    /// Stores the text of \a time.
+    void setEnd(const VySmil::VyTime &time);
+    /// How long the element lasts.
+    VySmil::VyTime getDur() const;
+    /// Stores the text of \a time.
+    void setDur(const VySmil::VyTime &time);
 };
 
 #endif

@@ -6,7 +6,6 @@
 #include <VySmil/model/xmltext_p.h>
 
 #include <QSet>
-#include <QStringBuilder>
 
 #include <vector>
 
@@ -33,7 +32,7 @@ int VySmilElemBase::toString(QString &out, bool strict, VySmil::STATUS_CODE *sta
             Writing &parent = path.back();
             const VySmilElemBase *child = parent.elem->subElements.at(parent.nextChild++);
             if (!child) {
-                out += QStringView(u"</") % parent.type % QStringView(u">\n");
+                out += QStringView(u"</") + parent.type + QStringView(u">\n");
                 path.pop_back();
                 if (path.empty())
                     return VySmil::RESULT_OK;
@@ -61,7 +60,7 @@ int VySmilElemBase::writeStartTag(const QString &type, QString &out, bool strict
         if (strict)
             return VySmil::RESULT_INVALID_ELEMENT;
     }
-    out += QStringView(u"<") % type;
+    out += QStringView(u"<") + type;
     QSet<QString> writtenUntrimmed;
     for (const Attribute &attribute : attributes) {
         const QString name = attribute.name.trimmed();
@@ -83,10 +82,10 @@ int VySmilElemBase::writeStartTag(const QString &type, QString &out, bool strict
             writtenUntrimmed.insert(name);
         }
         if (name == QLatin1String("nohref")) {
-            out += QStringView(u" ") % name;
+            out += QStringView(u" ") + name;
             continue;
         }
-        out += QStringView(u" ") % name % QStringView(u"=\"");
+        out += QStringView(u" ") + name + QStringView(u"=\"");
         VySmilPrivate::appendAttributeValue(out, value);
         out += u'"';
     }

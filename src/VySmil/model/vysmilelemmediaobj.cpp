@@ -62,3 +62,23 @@ QString VySmilElemMediaObjRef::getElemType() const
 {
     return QStringLiteral("ref");
 }
+
+QString VySmilElemMediaObj::getRegion() const
+{
+    return getAttribute(QStringLiteral("region"));
+}
+
+void VySmilElemMediaObj::setRegion(const QString &region)
+{
+    setAttribute(QStringLiteral("region"), region);
+}
+
+QString VySmilElemMediaObj::getAlt() const
+{
+    return getAttribute(QStringLiteral("alt"));
+}
+
+void VySmilElemMediaObj::setAlt(const QString &alt)
+{
+    setAttribute(QStringLiteral("alt"), alt);
+}

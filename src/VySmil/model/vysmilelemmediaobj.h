@@ -27,6 +27,15 @@ public:
     VySmilAttrMedia *getMediaAttrsProxy() { return &mediaAttrsProxy; }
     const VySmilAttrMedia *getMediaAttrsProxy() const { return &mediaAttrsProxy; }
 
+    /// The identifier of the region that shows the media.
+    QString getRegion() const;
+    /// Stores \a region unchanged.
+    void setRegion(const QString &region);
+    /// The text to show where the media cannot be.
+    QString getAlt() const;
+    /// Stores \a alt unchanged.
+    void setAlt(const QString &alt);
+
 private:
     VySmilAttrTiming timingAttrsProxy;
     VySmilAttrMedia mediaAttrsProxy;

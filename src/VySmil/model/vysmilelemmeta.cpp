@@ -17,3 +17,23 @@ bool VySmilElemMeta::isValidAttr(const QString &name, VySmil::SMIL_VERSION versi
 {
     return VySmilPrivate::isKnownAttr(name, version, {u"content", u"name"});
 }
+
+QString VySmilElemMeta::getName() const
+{
+    return getAttribute(QStringLiteral("name"));
+}
+
+void VySmilElemMeta::setName(const QString &name)
+{
+    setAttribute(QStringLiteral("name"), name);
+}
+
+QString VySmilElemMeta::getConent() const
+{
+    return getAttribute(QStringLiteral("content"));
+}
+
+void VySmilElemMeta::setContent(const QString &content)
+{
+    setAttribute(QStringLiteral("content"), content);
+}

@@ -17,6 +17,15 @@ public:
 
     QString getElemType() const override;
     bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
+
+    /// The name of the property.
+    QString getName() const;
+    /// Stores \a name unchanged.
+    void setName(const QString &name);
+    /// The value of the property. The getter is spelled like this.
+    QString getConent() const;
+    /// Stores \a content unchanged.
+    void setContent(const QString &content);
 };
 
 #endif

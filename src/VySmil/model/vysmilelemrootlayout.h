@@ -5,8 +5,13 @@
 #define VYSMIL_VYSMILELEMROOTLAYOUT_H
 
 #include <VySmil/model/vysmilelembase.h>
+#include <VySmil/values/vylength.h>
 
 /// The "root-layout": the size of the whole picture (W3C SMIL 2.0, Layout). Accepts "width" and "height".
+///
+/// A typed getter gives what reading the stored text leaves, without a word if that text does not read, and
+/// the empty value for an absent attribute. A typed setter stores the printed text, an empty one for an empty
+/// value.
 class VYSMIL_EXPORT VySmilElemRootLayout : public VySmilElemBase
 {
 public:
@@ -15,6 +20,15 @@ public:
 
     QString getElemType() const override;
     bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
+
+    /// The width of the whole picture.
+    VySmil::VyLength getWidth() const;
+    /// Stores the text of \a length.
+    void setWidth(const VySmil::VyLength &length);
+    /// The height of the whole picture.
+    VySmil::VyLength getHeight() const;
+    /// Stores the text of \a length.
+    void setHeight(const VySmil::VyLength &length);
 };
 
 #endif

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#ifndef VYSMIL_VYTIMEACCESSKEY_H
+#define VYSMIL_VYTIMEACCESSKEY_H
+
+#include <VySmil/time/vytimeoffset.h>
+
+#include <QString>
+
+/// A time tied to a key press, "accesskey(a)+0s" (W3C SMIL 2.0, Timing: Accesskey-value). The offset is
+/// required.
+///
+/// A failed read keeps the fields that it stored before the fault.
+/// Without "accesskey(", ")" or a key nothing changes.
+class VYSMIL_EXPORT VySmil::VyTimeAccessKey
+{
+public:
+    /// Reads any text as the key, and ignores what stands before the keyword.
+    int fromString(const QString &text);
+    /// The text of the value.
+    QString toString() const;
+
+    QString key = QStringLiteral("");
+    VyTimeOffset offset;
+};
+
+#endif

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#ifndef VYSMIL_VYTIMECLOCK_H
+#define VYSMIL_VYTIMECLOCK_H
+
+#include <VySmil/time/vytimecount.h>
+#include <VySmil/time/vytimefullclock.h>
+#include <VySmil/time/vytimepartialclock.h>
+
+#include <QString>
+
+/// Any clock value (W3C SMIL 2.0, Timing: Clock-val): a full clock value if the text holds two ":", a partial
+/// one if it holds one, else a timecount.
+///
+/// A read sets "clockType" first and then reads the member that it selects, which keeps what that read
+/// leaves; the other members stay as they were.
+class VYSMIL_EXPORT VySmil::VyTimeClock
+{
+public:
+    enum CLOCK_TYPE : qint32 {
+        CLOCK_TIMECOUNT = 0,
+        CLOCK_FULL = 1,
+        CLOCK_PARTIAL = 2,
+    };
+
+    /// Reads \a text: see above.
+    int fromString(const QString &text);
+    /// The text of the member that "clockType" selects.
+    QString toString() const;
+
+    CLOCK_TYPE clockType = CLOCK_TIMECOUNT;
+    VyTimeCount timeCount;
+    VyTimeFullClock fullClock;
+    VyTimePartialClock partialClock;
+};
+
+#endif

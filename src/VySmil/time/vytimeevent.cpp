@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#include <VySmil/time/clocktext_p.h>
+#include <VySmil/time/vytimeevent.h>
+
+int VySmil::VyTimeEvent::fromString(const QString &text)
+{
+    const QString kept = text; // may be the field that is written first
+    QStringView rest = QStringView(kept).trimmed();
+    const QStringView before = VySmilPrivate::cutAt(u'.', rest);
+    if (before.isNull())
+        return RESULT_UNUSABLE;
+    id = before.toString();
+    qsizetype sign = rest.indexOf(u'+');
+    if (sign < 0)
+        sign = rest.indexOf(u'-');
+    if (sign < 0)
+        return RESULT_UNUSABLE;
+    event = rest.first(sign).trimmed().toString();
+    return VySmilPrivate::readTime(rest.sliced(sign), offset);
+}
+
+QString VySmil::VyTimeEvent::toString() const
+{
+    return id + u'.' + event + offset.toString();
+}

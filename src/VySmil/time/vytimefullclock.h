@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#ifndef VYSMIL_VYTIMEFULLCLOCK_H
+#define VYSMIL_VYTIMEFULLCLOCK_H
+
+#include <VySmil/model/vysmil.h>
+
+#include <QString>
+
+/// A full clock value: hours, minutes and seconds, "01:02:05.5" (W3C SMIL 2.0, Timing: Full-clock-val).
+///
+/// No field is checked against a range. A read that does not find exactly two ":" changes nothing; one that
+/// fails at a field keeps the fields before it.
+class VYSMIL_EXPORT VySmil::VyTimeFullClock
+{
+public:
+    /// Reads \a text: see above.
+    int fromString(const QString &text);
+    /// "01:02:05.500000".
+    QString toString() const;
+
+    quint32 hours = 0;
+    quint32 minutes = 0;
+    float seconds = 0;
+};
+
+#endif

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#ifndef VYSMIL_VYTIMEPARTIALCLOCK_H
+#define VYSMIL_VYTIMEPARTIALCLOCK_H
+
+#include <VySmil/model/vysmil.h>
+
+#include <QString>
+
+/// A partial clock value: minutes and seconds, "02:05.5" (W3C SMIL 2.0, Timing: Partial-clock-val).
+///
+/// No field is checked against a range. A read that does not find exactly one ":" changes nothing; one that
+/// fails at a field keeps the fields before it.
+class VYSMIL_EXPORT VySmil::VyTimePartialClock
+{
+public:
+    /// Reads \a text: see above.
+    int fromString(const QString &text);
+    /// "02:05.500000".
+    QString toString() const;
+
+    quint32 minutes = 0;
+    float seconds = 0;
+};
+
+#endif

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#include <VySmil/time/clocktext_p.h>
+#include <VySmil/time/vytimesycbase.h>
+#include <VySmil/values/keyword_p.h>
+
+int VySmil::VyTimeSycBase::fromString(const QString &text)
+{
+    const QString kept = text; // may be the field that is written first
+    QStringView rest = QStringView(kept).trimmed();
+    const QStringView before = VySmilPrivate::cutAt(u'.', rest);
+    if (before.isNull())
+        return RESULT_UNUSABLE;
+    id = before.toString();
+    if (VySmilPrivate::startsLowered(rest, u"begin")) {
+        isBegin = true;
+        return VySmilPrivate::readTime(rest.sliced(5), offset);
+    }
+    if (VySmilPrivate::startsLowered(rest, u"end")) {
+        isBegin = false;
+        return VySmilPrivate::readTime(rest.sliced(3), offset);
+    }
+    return RESULT_UNUSABLE;
+}
+
+QString VySmil::VyTimeSycBase::toString() const
+{
+    return id + (isBegin ? QStringView(u".begin") : QStringView(u".end")) + offset.toString();
+}

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#ifndef VYSMIL_VYWALLCLOCKSYNCTIME_H
+#define VYSMIL_VYWALLCLOCKSYNCTIME_H
+
+#include <VySmil/model/vysmil.h>
+
+#include <QDate>
+#include <QString>
+
+/// A wall-clock time, "wallclock(2004-05-06T12:30:05.5+01:30)" (W3C SMIL 2.0, Timing: Wallclock-sync-value).
+///
+/// Fields are cut out by position: a date of 4, 2 and 2 characters, an optional "T", a time of 2 and 2
+/// characters and seconds, "Z" or a sign with an offset of 2 and 2 characters. Any character parts them, and
+/// no field is checked against a range. There is a date if the text holds two "-".
+///
+/// A read changes only the fields that it reaches, and a failed one keeps those before the fault: a time
+/// without seconds or zone keeps those of an earlier read. A date that the calendar does not have is null,
+/// and no failure.
+class VYSMIL_EXPORT VySmil::VyWallClockSyncTime
+{
+public:
+    /// Reads a text with or without "wallclock(" and ")".
+    int fromString(const QString &text);
+    /// The time is left out where it and the offset are zero. The offset is padded with blanks: "+ 1:30".
+    QString toString() const;
+
+    QDate date; ///< null if there is none
+    quint32 hours = 0;
+    quint32 minutes = 0;
+    float seconds = 0;
+    bool utc = false;           ///< ends in "Z"
+    bool offsetPositive = true; ///< the sign of the zone offset
+    quint32 offsetHours = 0;
+    quint32 offsetMinutes = 0;
+};
+
+#endif

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#ifndef VYSMIL_VYINDEX_H
+#define VYSMIL_VYINDEX_H
+
+#include <VySmil/model/vysmil.h>
+
+#include <QString>
+
+/// An index: an unsigned whole number, "auto" or "inherit", as in "z-index" (CSS2).
+///
+/// After a failed read "kind" is INDEX_NONE and "value" 0.
+class VYSMIL_EXPORT VySmil::VyIndex
+{
+public:
+    enum INDEX_KIND : qint32 {
+        INDEX_AUTO = 0,
+        INDEX_VALUE = 1,
+        INDEX_INHERIT = 2,
+        INDEX_NONE = 3, ///< no value
+    };
+
+    /// Reads a number within 32 bits, or a keyword in any letter case.
+    int fromString(const QString &text);
+    /// The text of the value, empty where there is none.
+    QString toString() const;
+
+    INDEX_KIND kind = INDEX_NONE;
+    quint32 value = 0;
+};
+
+#endif

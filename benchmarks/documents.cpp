@@ -15,6 +15,7 @@
 #include <malloc.h>
 
 #include <memory>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -150,6 +151,22 @@ void benchGrowth(benchmark::State &state)
     report(state, median(parseGrowth) / median(domGrowth), "growth of QDomDocument::setContent", 1.0);
 }
 
+// Two threads that each read documents of their own, against one thread that reads as many as one of them.
+void benchThreads(benchmark::State &state)
+{
+    const QString text = message(100);
+    const auto many = [&text] {
+        for (int i = 0; i < 20; ++i)
+            parseOnce(text);
+    };
+    const auto two = [&many] {
+        std::thread other(many);
+        many();
+        other.join();
+    };
+    compare(state, two, many, "one thread with half of the work", 1.2);
+}
+
 double heapInUse()
 {
     const struct mallinfo2 info = mallinfo2();
@@ -210,6 +227,7 @@ const bool registered = [] {
     benchmark::RegisterBenchmark("parse, per character, 5 MB to 1 KB", benchGrowth)
         ->UseManualTime()
         ->Iterations(5);
+    add("parse, 100 pars, two threads", benchThreads);
     benchmark::RegisterBenchmark("tree in memory, 3,000 pars", benchMemory)->UseManualTime()->Iterations(3);
     return true;
 }();

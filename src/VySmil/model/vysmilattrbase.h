@@ -24,6 +24,7 @@ public:
 
     /// The element whose attributes the group reads and writes, or null.
     VySmilElemBase *getRefElem() const { return refElem; }
+    /// Makes the group a view on \a elem, which it does not own.
     void setRefElem(VySmilElemBase *elem) { refElem = elem; }
 
     /// The same as VySmilElemBase::getAttribute() on the element.

@@ -11,6 +11,7 @@
 class VYSMIL_EXPORT VySmilAttrCommon : public VySmilAttrBase
 {
 public:
+    /// The group of \a elem.
     explicit VySmilAttrCommon(VySmilElemBase *elem);
 
     /// Whether \a name belongs to the group, under any version.

@@ -11,6 +11,7 @@
 class VYSMIL_EXPORT VySmilAttrMedia : public VySmilAttrBase
 {
 public:
+    /// The group of \a elem.
     explicit VySmilAttrMedia(VySmilElemBase *elem);
 
     /// Whether \a name belongs to the group, under any version.

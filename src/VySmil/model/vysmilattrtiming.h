@@ -16,6 +16,7 @@
 class VYSMIL_EXPORT VySmilAttrTiming : public VySmilAttrBase
 {
 public:
+    /// The group of \a elem.
     explicit VySmilAttrTiming(VySmilElemBase *elem);
 
     /// Whether \a name belongs to the group, under any version.

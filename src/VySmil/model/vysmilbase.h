@@ -14,7 +14,9 @@ public:
     virtual ~VySmilBase();
 
 protected:
+    /// Derived classes say whether they can be copied.
     VySmilBase(const VySmilBase &) = default;
+    /// Derived classes say whether they can be assigned.
     VySmilBase &operator=(const VySmilBase &) = default;
 };
 

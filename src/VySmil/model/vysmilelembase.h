@@ -44,15 +44,17 @@ public:
     /// trimmed.
     virtual bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const = 0;
 
-    /// Appends the text of the element and its subtree to \a out: a line per tag, attributes in name order.
+    /// Appends the text of the element and its subtree: a line per tag, attributes in name order.
     ///
-    /// Names and values are written trimmed, an empty one not at all; `&`, `<`, `"`, tabs and line ends
-    /// inside a value are written as references, characters that XML 1.0 cannot carry as U+FFFD. Of stored
-    /// names that are the same once trimmed one is written. An attribute "nohref" is written as the bare
-    /// word.
+    /// Names and values are written trimmed, an empty one not at all. Ampersands, less-than signs, double
+    /// quotes, tabs and line ends inside a value are written as references, characters that XML 1.0 cannot
+    /// carry as U+FFFD. Of stored names that are the same once trimmed one is written. An attribute "nohref"
+    /// is written as the bare word.
     ///
+    /// \param out what is appended to
     /// \param strict stop at the first finding instead of going on
     /// \param status gets each finding unless it is null; it is never reset here
+    /// \param version whose vocabulary is applied
     /// \return VySmil::RESULT_OK, or in a strict run VySmil::RESULT_INVALID_ELEMENT (nothing of that element
     /// is
     ///         appended) or VySmil::RESULT_INVALID_ATTR (the attributes before it are); \a out then holds an
@@ -61,13 +63,16 @@ public:
     virtual int toString(QString &out, bool strict, VySmil::STATUS_CODE *status,
                          VySmil::SMIL_VERSION version) const;
 
-    /// Adds the attributes and child elements of \a elem to this element, which must bear the same name.
+    /// Adds the attributes and child elements of a DOM element to this element, which must bear the same
+    /// name.
     ///
     /// Attributes are handled in ascending order of their names and stored trimmed; empty values are not
     /// stored (but "nohref" always is, with its name as its value). Text, comments and the like are dropped.
     ///
+    /// \param elem what is read
     /// \param strict stop at the first finding instead of going on
     /// \param status gets each finding unless it is null; it is never reset here
+    /// \param version whose vocabulary is applied
     /// \return VySmil::RESULT_OK; VySmil::RESULT_UNUSABLE if the trimmed tag is not getElemType(), with
     /// nothing
     ///         changed; in a strict run VySmil::RESULT_INVALID_ELEMENT or VySmil::RESULT_INVALID_ATTR;
@@ -101,6 +106,7 @@ public:
 
     /// The element's own list: what the caller changes in it, the element sees.
     VySmilElemList *getSubElements() { return &subElements; }
+    /// The same to look at.
     const VySmilElemList *getSubElements() const { return &subElements; }
     /// Replaces the children by the entries of \a list, which the element owns from then on: whoever owns
     /// \a list must not let it delete them. Entries that are children already stay alive.

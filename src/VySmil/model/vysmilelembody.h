@@ -21,6 +21,7 @@ public:
 
     /// The group with the identifier; owned by the element.
     VySmilAttrCommon *getCommonAttrsProxy() { return &commonAttrsProxy; }
+    /// The same to look at.
     const VySmilAttrCommon *getCommonAttrsProxy() const { return &commonAttrsProxy; }
 
 private:

@@ -19,6 +19,7 @@ class VySmilElemBase;
 class VYSMIL_EXPORT VySmilElemList
 {
 public:
+    /// Iterates over the pointers.
     using const_iterator = QList<VySmilElemBase *>::const_iterator;
 
     VySmilElemList() = default;
@@ -34,7 +35,9 @@ public:
 
     /// The element at \a index, or null outside the list.
     VySmilElemBase *at(qsizetype index) const;
+    /// The number of elements.
     qsizetype count() const { return entries.size(); }
+    /// Whether there are none.
     bool isEmpty() const { return entries.isEmpty(); }
 
     /// Removes the element at \a index, and deletes it while the list owns its elements. False outside the
@@ -47,9 +50,12 @@ public:
 
     /// Whether the list owns its elements.
     bool autoDelete() const { return ownsEntries; }
+    /// Makes the list own its elements, or no longer.
     void setAutoDelete(bool on) { ownsEntries = on; }
 
+    /// The first pointer, for a range-based for.
     const_iterator begin() const { return entries.cbegin(); }
+    /// Behind the last pointer.
     const_iterator end() const { return entries.cend(); }
 
 private:

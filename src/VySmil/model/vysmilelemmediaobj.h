@@ -21,10 +21,12 @@ public:
 
     /// The group with begin, end and duration; owned by the element.
     VySmilAttrTiming *getTimingAttrsProxy() { return &timingAttrsProxy; }
+    /// The same to look at.
     const VySmilAttrTiming *getTimingAttrsProxy() const { return &timingAttrsProxy; }
 
     /// The group with the source of the media; owned by the element.
     VySmilAttrMedia *getMediaAttrsProxy() { return &mediaAttrsProxy; }
+    /// The same to look at.
     const VySmilAttrMedia *getMediaAttrsProxy() const { return &mediaAttrsProxy; }
 
     /// The identifier of the region that shows the media.

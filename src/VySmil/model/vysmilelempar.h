@@ -21,6 +21,7 @@ public:
 
     /// The group with begin, end and duration; owned by the element.
     VySmilAttrTiming *getTimingAttrsProxy() { return &timingAttrsProxy; }
+    /// The same to look at.
     const VySmilAttrTiming *getTimingAttrsProxy() const { return &timingAttrsProxy; }
 
 private:

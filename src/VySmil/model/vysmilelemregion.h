@@ -26,6 +26,7 @@ public:
 
     /// The group with the identifier; owned by the element.
     VySmilAttrCommon *getCommonAttrsProxy() { return &commonAttrsProxy; }
+    /// The same to look at.
     const VySmilAttrCommon *getCommonAttrsProxy() const { return &commonAttrsProxy; }
 
     /// The width, of pixels or of the root layout.

@@ -16,14 +16,17 @@ public:
     /// The greatest number of attributes that parse() takes on one element.
     static constexpr int MAX_ATTRIBUTES = 256;
 
-    /// Reads the document \a text into \a root, whose children it replaces and whose attributes it adds to.
+    /// Reads a document into a root, whose children it replaces and whose attributes it adds to.
     ///
     /// Whatever stands before the first "<smil" is left out. The text is refused as malformed before any work
     /// is spent on it if it exceeds the bounds above or holds a document type declaration with an internal
     /// subset.
     ///
+    /// \param text the document
+    /// \param root what it is read into; stays the caller's
     /// \param strict stop at the first finding; otherwise findings are recorded, and all is read
     /// \param status set to VySmil::STATUS_OK first, then gets each finding, unless it is null
+    /// \param version whose vocabulary is applied
     /// \return VySmil::RESULT_OK;
     ///         VySmil::RESULT_UNUSABLE for a null root or a blank text, with the tree untouched, and for a
     ///         root tag other than "smil"; VySmil::RESULT_MALFORMED for what is no XML or is refused, with a

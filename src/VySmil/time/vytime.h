@@ -25,6 +25,7 @@
 class VYSMIL_EXPORT VySmil::VyTime
 {
 public:
+    /// Which kind of time a value is.
     enum TIME_TYPE : qint32 {
         TIME_OFFSET = 0,      ///< "+5s"
         TIME_SYNCBASE = 1,    ///< "intro.end+2s"
@@ -51,18 +52,18 @@ public:
     /// The text of the member that "timeType" selects.
     QString toString() const;
 
-    TIME_TYPE timeType = TIME_EMPTY;
-    VyTimeOffset offsetTime;
-    VyTimeSycBase syncBaseTime;
-    VyTimeEvent eventTime;
-    VyTimeRepeat repeatTime;
-    VyTimeAccessKey accessKeyTime;
-    VyTimeMediaMarker mediaMarkerTime;
-    VyWallClockSyncTime wallClockTime;
-    VyTimeClock clockTime;
-    VyTimeSmpte smpteTime;
-    QString rawText; ///< trimmed
-    quint32 percent = 0;
+    TIME_TYPE timeType = TIME_EMPTY;   ///< which of the members is the value
+    VyTimeOffset offsetTime;           ///< while "timeType" is TIME_OFFSET
+    VyTimeSycBase syncBaseTime;        ///< while "timeType" is TIME_SYNCBASE
+    VyTimeEvent eventTime;             ///< while "timeType" is TIME_EVENT
+    VyTimeRepeat repeatTime;           ///< while "timeType" is TIME_REPEAT
+    VyTimeAccessKey accessKeyTime;     ///< while "timeType" is TIME_ACCESSKEY
+    VyTimeMediaMarker mediaMarkerTime; ///< while "timeType" is TIME_MEDIAMARKER
+    VyWallClockSyncTime wallClockTime; ///< while "timeType" is TIME_WALLCLOCK
+    VyTimeClock clockTime;             ///< while "timeType" is TIME_CLOCK
+    VyTimeSmpte smpteTime;             ///< while "timeType" is TIME_SMPTE
+    QString rawText;                   ///< while "timeType" is TIME_TEXT: trimmed
+    quint32 percent = 0;               ///< while "timeType" is TIME_PERCENT
 };
 
 #endif

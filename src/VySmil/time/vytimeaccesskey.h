@@ -21,8 +21,8 @@ public:
     /// The text of the value.
     QString toString() const;
 
-    QString key = QStringLiteral("");
-    VyTimeOffset offset;
+    QString key = QStringLiteral(""); ///< the key, as text
+    VyTimeOffset offset;              ///< added to that instant
 };
 
 #endif

@@ -18,6 +18,7 @@
 class VYSMIL_EXPORT VySmil::VyTimeClock
 {
 public:
+    /// Which form a clock value has.
     enum CLOCK_TYPE : qint32 {
         CLOCK_TIMECOUNT = 0,
         CLOCK_FULL = 1,
@@ -29,10 +30,10 @@ public:
     /// The text of the member that "clockType" selects.
     QString toString() const;
 
-    CLOCK_TYPE clockType = CLOCK_TIMECOUNT;
-    VyTimeCount timeCount;
-    VyTimeFullClock fullClock;
-    VyTimePartialClock partialClock;
+    CLOCK_TYPE clockType = CLOCK_TIMECOUNT; ///< which of the members is the value
+    VyTimeCount timeCount;                  ///< while "clockType" is CLOCK_TIMECOUNT
+    VyTimeFullClock fullClock;              ///< while "clockType" is CLOCK_FULL
+    VyTimePartialClock partialClock;        ///< while "clockType" is CLOCK_PARTIAL
 };
 
 #endif

@@ -15,11 +15,12 @@
 class VYSMIL_EXPORT VySmil::VyTimeCount
 {
 public:
+    /// The unit of a timecount.
     enum TIME_METRIC : qint32 {
-        METRIC_H = 0,
-        METRIC_MIN = 1,
-        METRIC_S = 2,
-        METRIC_MS = 3,
+        METRIC_H = 0,   ///< hours
+        METRIC_MIN = 1, ///< minutes
+        METRIC_S = 2,   ///< seconds
+        METRIC_MS = 3,  ///< milliseconds
     };
 
     /// Reads a number, negative ones too, with a metric in any letter case.
@@ -30,8 +31,8 @@ public:
     /// of 32 bits, 0 for what is no number.
     qint32 toMilliSeconds() const;
 
-    float value = 0; ///< in units of "metric"
-    TIME_METRIC metric = METRIC_S;
+    float value = 0;               ///< in units of "metric"
+    TIME_METRIC metric = METRIC_S; ///< the unit
 };
 
 #endif

@@ -21,9 +21,9 @@ public:
     /// The text of the value.
     QString toString() const;
 
-    QString id = QStringLiteral("");
-    QString event = QStringLiteral("");
-    VyTimeOffset offset;
+    QString id = QStringLiteral("");    ///< the element that is meant
+    QString event = QStringLiteral(""); ///< the name of the event, trimmed
+    VyTimeOffset offset;                ///< added to that instant
 };
 
 #endif

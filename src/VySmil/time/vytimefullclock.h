@@ -20,9 +20,9 @@ public:
     /// "01:02:05.500000".
     QString toString() const;
 
-    quint32 hours = 0;
-    quint32 minutes = 0;
-    float seconds = 0;
+    quint32 hours = 0;   ///< any number
+    quint32 minutes = 0; ///< any number
+    float seconds = 0;   ///< with fraction
 };
 
 #endif

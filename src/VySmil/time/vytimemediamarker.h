@@ -21,7 +21,7 @@ public:
     /// The text of the value.
     QString toString() const;
 
-    QString id = QStringLiteral("");
+    QString id = QStringLiteral("");         ///< the element whose media hold the marker
     QString markerName = QStringLiteral(""); ///< trimmed
 };
 

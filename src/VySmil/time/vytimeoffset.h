@@ -21,8 +21,8 @@ public:
     /// "+5s", "-01:30.000000".
     QString toString() const;
 
-    bool positive = true;
-    VyTimeClock clock; ///< the magnitude
+    bool positive = true; ///< the sign
+    VyTimeClock clock;    ///< the magnitude
 };
 
 #endif

@@ -20,8 +20,8 @@ public:
     /// "02:05.500000".
     QString toString() const;
 
-    quint32 minutes = 0;
-    float seconds = 0;
+    quint32 minutes = 0; ///< any number
+    float seconds = 0;   ///< with fraction
 };
 
 #endif

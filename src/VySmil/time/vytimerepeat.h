@@ -21,8 +21,8 @@ public:
     QString toString() const;
 
     QString id = QStringLiteral(""); ///< empty for the element that holds the value
-    quint32 iteration = 0;
-    VyTimeOffset offset;
+    quint32 iteration = 0;           ///< which iteration is meant
+    VyTimeOffset offset;             ///< added to that instant
 };
 
 #endif

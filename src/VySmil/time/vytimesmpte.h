@@ -22,9 +22,9 @@ public:
     /// Frames are printed unless they are 0.
     QString toString() const;
 
-    quint32 hours = 0;
-    quint32 minutes = 0;
-    quint32 seconds = 0;
+    quint32 hours = 0;                              ///< any number
+    quint32 minutes = 0;                            ///< any number
+    quint32 seconds = 0;                            ///< any number, whole
     quint32 frames = 0;                             ///< 0 also where there are none
     QString smpteType = QStringLiteral("smpte-25"); ///< in lower case
 };

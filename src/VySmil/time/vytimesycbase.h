@@ -20,9 +20,9 @@ public:
     /// The text of the value.
     QString toString() const;
 
-    QString id = QStringLiteral("");
-    bool isBegin = true; ///< else the end of the element is meant
-    VyTimeOffset offset;
+    QString id = QStringLiteral(""); ///< the element that is meant
+    bool isBegin = true;             ///< else the end of the element is meant
+    VyTimeOffset offset;             ///< added to that instant
 };
 
 #endif

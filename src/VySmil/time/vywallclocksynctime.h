@@ -26,14 +26,14 @@ public:
     /// The time is left out where it and the offset are zero. The offset is padded with blanks: "+ 1:30".
     QString toString() const;
 
-    QDate date; ///< null if there is none
-    quint32 hours = 0;
-    quint32 minutes = 0;
-    float seconds = 0;
+    QDate date;                 ///< null if there is none
+    quint32 hours = 0;          ///< of the time of day
+    quint32 minutes = 0;        ///< of the time of day
+    float seconds = 0;          ///< of the time of day, with fraction
     bool utc = false;           ///< ends in "Z"
     bool offsetPositive = true; ///< the sign of the zone offset
-    quint32 offsetHours = 0;
-    quint32 offsetMinutes = 0;
+    quint32 offsetHours = 0;    ///< of the zone offset
+    quint32 offsetMinutes = 0;  ///< of the zone offset
 };
 
 #endif

@@ -20,8 +20,8 @@ public:
     /// The text of the value, empty where there is none.
     QString toString() const;
 
-    NUMBER_KIND kind = NUMBER_NONE;
-    quint32 value = 0; ///< 50% is 50
+    NUMBER_KIND kind = NUMBER_NONE; ///< number, percentage or none
+    quint32 value = 0;              ///< 50% is 50
 };
 
 #endif

@@ -17,6 +17,7 @@
 class VYSMIL_EXPORT VySmil::VyColor
 {
 public:
+    /// Which notation a colour has.
     enum COLOR_KIND : qint32 {
         COLOR_TRANSPARENT = 0,
         COLOR_NAMED = 1,  ///< the text in "name"; no text reads as this
@@ -31,9 +32,9 @@ public:
     /// A colour with red, green and blue is printed as "#ff8000"; a system colour in lower case.
     QString toString() const;
 
-    COLOR_KIND kind = COLOR_NONE;
-    QColor color;
-    QString name;
+    COLOR_KIND kind = COLOR_NONE; ///< which of the other fields counts
+    QColor color;                 ///< while "kind" is COLOR_RGB; invalid at first
+    QString name;                 ///< while "kind" is COLOR_SYSTEM or COLOR_NAMED
 };
 
 #endif

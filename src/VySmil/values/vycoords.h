@@ -16,6 +16,7 @@
 class VYSMIL_EXPORT VySmil::VyCoords
 {
 public:
+    /// The number, as "unit" says.
     union Value {
         qint32 pixels = 0; ///< while "unit" is UNIT_PIXELS
         float fraction;    ///< while "unit" is UNIT_PERCENT: 50% is 0.5
@@ -27,8 +28,8 @@ public:
     /// A percentage is printed with at most six significant digits.
     QString toString() const;
 
-    UNIT_KIND unit = UNIT_NONE;
-    Value coords[4];
+    UNIT_KIND unit = UNIT_NONE; ///< what all four numbers are
+    Value coords[4];            ///< in the order of the text
 };
 
 #endif

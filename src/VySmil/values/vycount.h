@@ -14,6 +14,7 @@
 class VYSMIL_EXPORT VySmil::VyCount
 {
 public:
+    /// Which form a count has.
     enum COUNT_KIND : qint32 {
         COUNT_INDEFINITE = 0,
         COUNT_VALUE = 1,
@@ -25,8 +26,8 @@ public:
     /// At most six significant digits: "2.5", "1e+07".
     QString toString() const;
 
-    COUNT_KIND kind = COUNT_NONE;
-    float value = 1;
+    COUNT_KIND kind = COUNT_NONE; ///< number, keyword or none
+    float value = 1;              ///< the number, while "kind" is COUNT_VALUE
 };
 
 #endif

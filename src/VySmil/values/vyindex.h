@@ -14,6 +14,7 @@
 class VYSMIL_EXPORT VySmil::VyIndex
 {
 public:
+    /// Which form an index has.
     enum INDEX_KIND : qint32 {
         INDEX_AUTO = 0,
         INDEX_VALUE = 1,
@@ -26,8 +27,8 @@ public:
     /// The text of the value, empty where there is none.
     QString toString() const;
 
-    INDEX_KIND kind = INDEX_NONE;
-    quint32 value = 0;
+    INDEX_KIND kind = INDEX_NONE; ///< number, keyword or none
+    quint32 value = 0;            ///< the number, while "kind" is INDEX_VALUE
 };
 
 #endif

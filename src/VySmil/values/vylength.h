@@ -14,6 +14,7 @@
 class VYSMIL_EXPORT VySmil::VyLength
 {
 public:
+    /// The number, as "unit" says.
     union Value {
         qint32 pixels = 0; ///< while "unit" is UNIT_PIXELS
         float percent;     ///< while "unit" is UNIT_PERCENT: 50% is 50
@@ -25,8 +26,8 @@ public:
     /// "120", or a percentage with six decimals: "50.000000%".
     QString toString() const;
 
-    UNIT_KIND unit = UNIT_NONE;
-    Value value;
+    UNIT_KIND unit = UNIT_NONE; ///< pixels, percent or none
+    Value value;                ///< the number
 };
 
 #endif

@@ -15,6 +15,7 @@
 class VYSMIL_EXPORT VySmil::VyMediaLength
 {
 public:
+    /// The number, as "kind" says.
     union Value {
         qint32 number = 0; ///< while "kind" is NUMBER_ABSOLUTE
         float percent;     ///< while "kind" is NUMBER_PERCENT: 50% is 50
@@ -25,8 +26,8 @@ public:
     /// A percentage is printed with six decimals: "50.000000%".
     QString toString() const;
 
-    NUMBER_KIND kind = NUMBER_NONE;
-    Value value;
+    NUMBER_KIND kind = NUMBER_NONE; ///< number, percentage or none
+    Value value;                    ///< the number
 };
 
 #endif

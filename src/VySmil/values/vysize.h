@@ -15,6 +15,7 @@
 class VYSMIL_EXPORT VySmil::VySize
 {
 public:
+    /// The number, as "unit" says.
     union Value {
         qint32 pixels = 0; ///< while "unit" is UNIT_PIXELS
         float fraction;    ///< while "unit" is UNIT_PERCENT: 50% is 0.5
@@ -25,8 +26,8 @@ public:
     /// A percentage is printed with at most six significant digits.
     QString toString() const;
 
-    UNIT_KIND unit = UNIT_NONE;
-    Value value;
+    UNIT_KIND unit = UNIT_NONE; ///< pixels, percent or none
+    Value value;                ///< the number
 };
 
 #endif

@@ -14,14 +14,13 @@ int main()
     for (const char *text : {"<smil><body/></smil>", "<smil><seq/></smil>", "<smil><par color='red'/></smil>",
                              "<smil><par color='red'/><seq/></smil>", "<smil><PAR/></smil>", "<html/>", " ",
                              "<smil><body></smil>"}) {
-        int result[2];
-        VySmil::STATUS_CODE status[2];
-        for (const bool strict : {true, false}) {
+        const auto answer = [text](bool strict) {
             VySmilElemSmil root;
-            result[strict] = VySmilParser::parse(text, &root, strict, &status[strict], version);
-        }
-        std::printf("%2d, %-4d %2d, %-4d  %s\n", result[true], status[true], result[false], status[false],
-                    text);
+            VySmil::STATUS_CODE status = VySmil::STATUS_OK;
+            const int result = VySmilParser::parse(text, &root, strict, &status, version);
+            return QString::asprintf("%2d, %d", result, status);
+        };
+        std::printf("%-8s %-8s  %s\n", qPrintable(answer(true)), qPrintable(answer(false)), text);
     }
 
     // Writing checks the same. It does not reset the status, so the caller does.

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 the VySmil authors
 # SPDX-License-Identifier: MIT
 
-# Run by the test "package" with BUILD_DIR, SOURCE_DIR, WORK_DIR, LIB_DIR and COMPILER.
+# Run by the test "package" with BUILD_DIR, SOURCE_DIR, WORK_DIR, LIB_DIR, COMPILER and GENERATOR.
 cmake_minimum_required(VERSION 3.22)
 
 function(run)
@@ -13,7 +13,7 @@ set(prefix "${WORK_DIR}/prefix")
 set(libdir "${prefix}/${LIB_DIR}")
 run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${prefix})
 
-run(${CMAKE_COMMAND} -S ${SOURCE_DIR} -B ${WORK_DIR}/cmake -D CMAKE_PREFIX_PATH=${prefix}
+run(${CMAKE_COMMAND} -G ${GENERATOR} -S ${SOURCE_DIR} -B ${WORK_DIR}/cmake -D CMAKE_PREFIX_PATH=${prefix}
     -D CMAKE_CXX_COMPILER=${COMPILER})
 run(${CMAKE_COMMAND} --build ${WORK_DIR}/cmake)
 run(${WORK_DIR}/cmake/consumer)

@@ -21,3 +21,12 @@ QStringView VySmilPrivate::cutAt(QChar separator, QStringView &rest)
     rest = rest.sliced(at + 1);
     return before;
 }
+
+bool VySmilPrivate::takeId(QStringView &rest, QString &id)
+{
+    const QStringView found = cutAt(u'.', rest);
+    if (found.isNull())
+        return false;
+    id = found.toString();
+    return true;
+}

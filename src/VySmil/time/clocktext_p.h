@@ -23,6 +23,10 @@ QString secondsText(float seconds);
 /// it was, if there is none.
 QStringView cutAt(QChar separator, QStringView &rest);
 
+/// Cuts the id of an element and the "." behind it off \a rest. False, with nothing changed, if there is no
+/// ".".
+bool takeId(QStringView &rest, QString &id);
+
 } // namespace VySmilPrivate
 
 #endif

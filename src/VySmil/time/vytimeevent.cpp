@@ -8,10 +8,8 @@ int VySmil::VyTimeEvent::fromString(const QString &text)
 {
     const QString kept = text; // may be the field that is written first
     QStringView rest = QStringView(kept).trimmed();
-    const QStringView before = VySmilPrivate::cutAt(u'.', rest);
-    if (before.isNull())
+    if (!VySmilPrivate::takeId(rest, id))
         return RESULT_UNUSABLE;
-    id = before.toString();
     qsizetype sign = rest.indexOf(u'+');
     if (sign < 0)
         sign = rest.indexOf(u'-');

@@ -9,10 +9,8 @@ int VySmil::VyTimeMediaMarker::fromString(const QString &text)
 {
     const QString kept = text; // may be the field that is written first
     QStringView rest = QStringView(kept).trimmed();
-    const QStringView before = VySmilPrivate::cutAt(u'.', rest);
-    if (before.isNull())
+    if (!VySmilPrivate::takeId(rest, id))
         return RESULT_UNUSABLE;
-    id = before.toString();
     const QStringView keyword = u"marker(";
     if (!VySmilPrivate::startsLowered(rest, keyword))
         return RESULT_UNUSABLE;

@@ -9,10 +9,8 @@ int VySmil::VyTimeSycBase::fromString(const QString &text)
 {
     const QString kept = text; // may be the field that is written first
     QStringView rest = QStringView(kept).trimmed();
-    const QStringView before = VySmilPrivate::cutAt(u'.', rest);
-    if (before.isNull())
+    if (!VySmilPrivate::takeId(rest, id))
         return RESULT_UNUSABLE;
-    id = before.toString();
     if (VySmilPrivate::startsLowered(rest, u"begin")) {
         isBegin = true;
         return VySmilPrivate::readTime(rest.sliced(5), offset);

@@ -56,6 +56,18 @@ private Q_SLOTS:
             QCOMPARE(treeText(root), tree);
         }
     }
+
+    // A copy leaves out what there is no room for.
+    void copyingGoesOn()
+    {
+        VySmilElemSmil root;
+        VySmilParser::parse("<smil><head><layout/></head><body><par/></body></smil>", &root, true, nullptr,
+                            VySmil::SMIL_VER_DEFAULT);
+        allocationsLeft = 1;
+        const VySmilElemSmil copy(root);
+        allocationsLeft = -1;
+        QCOMPARE(treeText(copy), QString("smil(head(layout))"));
+    }
 };
 
 QTEST_GUILESS_MAIN(TestHeapExhausted)

@@ -165,6 +165,7 @@ private Q_SLOTS:
         color("rgb(1,2)", 3, "5 none ", "");
         color("rgb(1,2,3", 3, "5 none ", "");
         color("rgb", 3, "5 none ", "");
+        color("rgb(1%,x%,3%)", 3, "5 none ", "");
         color("rgb(,,)", 3, "5 none ", "");
         color("rgb)1,2,3", 3, "5 none ", "");
         color("ButtonFace|#000", 0, "2 #000000 buttonface", "#000000");

@@ -6,8 +6,8 @@
 
 int VySmil::VyTimeAccessKey::fromString(const QString &text)
 {
-    const QString kept = text; // may be the field that is written first
-    const QStringView trimmed = QStringView(kept).trimmed();
+    const QString own = text.trimmed(); // the text may be the field that is written first
+    const QStringView trimmed = own;
     const QStringView keyword = u"accesskey(";
     const qsizetype at = trimmed.indexOf(keyword);
     if (at < 0)

@@ -6,8 +6,8 @@
 
 int VySmil::VyTimeEvent::fromString(const QString &text)
 {
-    const QString kept = text; // may be the field that is written first
-    QStringView rest = QStringView(kept).trimmed();
+    const QString own = text.trimmed(); // the text may be the field that is written first
+    QStringView rest = own;
     if (!VySmilPrivate::takeId(rest, id))
         return RESULT_UNUSABLE;
     qsizetype sign = rest.indexOf(u'+');

@@ -27,8 +27,8 @@ QStringView findKind(QStringView text)
 
 int VySmil::VyTimeSmpte::fromString(const QString &text)
 {
-    const QString kept = text; // may be the field that is written first
-    QStringView rest = QStringView(kept).trimmed();
+    const QString own = text.trimmed(); // the text may be the field that is written first
+    QStringView rest = own;
     const QStringView kind = findKind(rest);
     if (kind.isNull())
         return RESULT_UNUSABLE;

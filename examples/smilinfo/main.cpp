@@ -128,7 +128,7 @@ QString inform(QTextStream &out, const QString &path, const Options &options)
     VySmilElemSmil root;
     VySmil::STATUS_CODE status = VySmil::STATUS_OK;
     const int result = VySmilParser::parse(*text, &root, options.strict, &status, version);
-    if (result == VySmil::RESULT_MALFORMED || (result == VySmil::RESULT_UNUSABLE && !options.strict))
+    if (result == VySmil::RESULT_MALFORMED || result == VySmil::RESULT_UNUSABLE)
         return inWords(result);
     out << path << ": " << inWords(result) << "; " << inWords(status) << '\n';
     printTree(out, root, 1);

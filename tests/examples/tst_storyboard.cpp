@@ -38,7 +38,7 @@ QByteArray draw(const QByteArray &document, int &exitCode)
         file.write(document);
     file.close();
     QProcess process;
-    process.start(STORYBOARD, {file.fileName()});
+    process.start(PROGRAM, {file.fileName()});
     process.waitForFinished();
     exitCode = process.exitCode();
     return process.readAllStandardOutput();

@@ -14,8 +14,8 @@ namespace {
 int allocations = 0;
 }
 
-// Qt allocates by malloc, and so does operator new.
-extern "C" void *malloc(std::size_t size)
+// Qt allocates by malloc, and so does operator new. Exported, for them to find it.
+extern "C" Q_DECL_EXPORT void *malloc(std::size_t size)
 {
     ++allocations;
     return __libc_malloc(size);

@@ -7,6 +7,7 @@
 #include <QVarLengthArray>
 
 #include <algorithm>
+#include <array>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -22,13 +23,15 @@ struct NameAndValue
 // Qt keeps a DOM element's attributes in a hash whose order changes from run to run. Walking the hash is
 // slow, so the names that messages are made of are looked up, and the hash is walked only where that does not
 // find all.
-QVarLengthArray<NameAndValue, 8> sortedAttributes(const QDomElement &elem)
+QVarLengthArray<NameAndValue, 8> sortedAttributes(const QDomElement &elem, const QString &tag)
 {
-    static const QString frequentNames[] = {
-        QStringLiteral("src"),    QStringLiteral("region"), QStringLiteral("dur"), QStringLiteral("begin"),
-        QStringLiteral("end"),    QStringLiteral("alt"),    QStringLiteral("id"),  QStringLiteral("width"),
-        QStringLiteral("height"), QStringLiteral("left"),   QStringLiteral("top"), QStringLiteral("fit"),
-    };
+    using Names = std::array<QString, 6>;
+    static const Names mediaNames{QStringLiteral("src"),   QStringLiteral("dur"), QStringLiteral("region"),
+                                  QStringLiteral("begin"), QStringLiteral("end"), QStringLiteral("alt")};
+    static const Names layoutNames{QStringLiteral("width"), QStringLiteral("height"), QStringLiteral("id"),
+                                   QStringLiteral("left"),  QStringLiteral("top"),    QStringLiteral("fit")};
+    const bool isLayout = tag == QLatin1String("region") || tag == QLatin1String("root-layout");
+    const Names &frequentNames = isLayout ? layoutNames : mediaNames;
     QVarLengthArray<NameAndValue, 8> sorted;
     const QDomNamedNodeMap map = elem.attributes();
     const int length = map.length();
@@ -114,7 +117,7 @@ int VySmilElemBase::readStartTag(const QDomElement &elem, const QString &tagName
         if (strict)
             return VySmil::RESULT_INVALID_ELEMENT;
     }
-    auto found = sortedAttributes(elem);
+    auto found = sortedAttributes(elem, tag);
     attributes.reserve(attributes.size() + found.size());
     for (NameAndValue &entry : found) {
         const QString name = std::move(entry.name).trimmed();

@@ -73,7 +73,30 @@ const ElementClass *findElementClass(QStringView name)
     return nullptr;
 }
 
+int finding(VySmil::STATUS_CODE found, VySmil::RESULT_CODE result, bool strict, VySmil::STATUS_CODE *status)
+{
+    if (status)
+        *status = found;
+    return strict ? result : VySmil::RESULT_OK;
+}
+
 } // namespace
+
+int VySmilPrivate::checkElement(const VySmilElemBase &elem, const QString &type, bool strict,
+                                VySmil::STATUS_CODE *status, VySmil::SMIL_VERSION version)
+{
+    if (elem.isValidElement(type, version))
+        return VySmil::RESULT_OK;
+    return finding(VySmil::STATUS_INVALID_ELEMENT, VySmil::RESULT_INVALID_ELEMENT, strict, status);
+}
+
+int VySmilPrivate::checkAttr(const VySmilElemBase &elem, const QString &name, bool strict,
+                             VySmil::STATUS_CODE *status, VySmil::SMIL_VERSION version)
+{
+    if (elem.isValidAttr(name, version))
+        return VySmil::RESULT_OK;
+    return finding(VySmil::STATUS_INVALID_ATTR, VySmil::RESULT_INVALID_ATTR, strict, status);
+}
 
 bool VySmilPrivate::isMadeByFactory(const VySmilElemBase &elem, QStringView type)
 {

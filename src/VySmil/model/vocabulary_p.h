@@ -6,7 +6,7 @@
 
 #include <VySmil/model/vysmil.h>
 
-#include <QStringView>
+#include <QString>
 
 #include <algorithm>
 #include <initializer_list>
@@ -21,6 +21,13 @@ inline bool isKnownAttr(QStringView name, VySmil::SMIL_VERSION version,
 {
     return version == VySmil::SMIL_VER_DEFAULT && std::find(names.begin(), names.end(), name) != names.end();
 }
+
+/// The checks of reading and writing. A finding goes to \a status unless that is null; the result is
+/// RESULT_OK, or in a strict run that of the finding.
+int checkElement(const VySmilElemBase &elem, const QString &type, bool strict, VySmil::STATUS_CODE *status,
+                 VySmil::SMIL_VERSION version);
+int checkAttr(const VySmilElemBase &elem, const QString &name, bool strict, VySmil::STATUS_CODE *status,
+              VySmil::SMIL_VERSION version);
 
 /// Whether the class of \a elem, whose type name is \a type, is one that newElem() makes, and not one that a
 /// client derived.

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the VySmil authors
 // SPDX-License-Identifier: MIT
 
+#include <VySmil/model/vocabulary_p.h>
 #include <VySmil/model/vysmilelembase.h>
 
 #include <QDomElement>
@@ -111,22 +112,14 @@ int VySmilElemBase::readStartTag(const QDomElement &elem, const QString &tagName
     const QString tag = tagName.trimmed();
     if (tag != getElemType())
         return VySmil::RESULT_UNUSABLE;
-    if (!isValidElement(tag, version)) {
-        if (status)
-            *status = VySmil::STATUS_INVALID_ELEMENT;
-        if (strict)
-            return VySmil::RESULT_INVALID_ELEMENT;
-    }
+    if (const int result = VySmilPrivate::checkElement(*this, tag, strict, status, version))
+        return result;
     auto found = sortedAttributes(elem, tag);
     attributes.reserve(attributes.size() + found.size());
     for (NameAndValue &entry : found) {
         const QString name = std::move(entry.name).trimmed();
-        if (!isValidAttr(name, version)) {
-            if (status)
-                *status = VySmil::STATUS_INVALID_ATTR;
-            if (strict)
-                return VySmil::RESULT_INVALID_ATTR;
-        }
+        if (const int result = VySmilPrivate::checkAttr(*this, name, strict, status, version))
+            return result;
         const QString value = name == QLatin1String("nohref") ? name : std::move(entry.value).trimmed();
         if (!name.isEmpty() && !value.isEmpty())
             setAttribute(name, value);

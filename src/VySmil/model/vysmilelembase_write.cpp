@@ -54,22 +54,14 @@ int VySmilElemBase::toString(QString &out, bool strict, VySmil::STATUS_CODE *sta
 int VySmilElemBase::writeStartTag(const QString &type, QString &out, bool strict, VySmil::STATUS_CODE *status,
                                   VySmil::SMIL_VERSION version) const
 {
-    if (!isValidElement(type, version)) {
-        if (status)
-            *status = VySmil::STATUS_INVALID_ELEMENT;
-        if (strict)
-            return VySmil::RESULT_INVALID_ELEMENT;
-    }
+    if (const int result = VySmilPrivate::checkElement(*this, type, strict, status, version))
+        return result;
     out += QStringView(u"<") + type;
     QSet<QString> writtenUntrimmed;
     for (const Attribute &attribute : attributes) {
         const QString name = attribute.name.trimmed();
-        if (!isValidAttr(name, version)) {
-            if (status)
-                *status = VySmil::STATUS_INVALID_ATTR;
-            if (strict)
-                return VySmil::RESULT_INVALID_ATTR;
-        }
+        if (const int result = VySmilPrivate::checkAttr(*this, name, strict, status, version))
+            return result;
         const QStringView value = QStringView(attribute.value).trimmed();
         if (name.isEmpty() || value.isEmpty())
             continue;

@@ -6,6 +6,7 @@
 #include <VySmil/VySmil>
 
 #include <QDomDocument>
+#include <QRandomGenerator>
 #include <QTest>
 
 #include <memory>
@@ -70,6 +71,53 @@ private Q_SLOTS:
         QCOMPARE(region.getCommonAttrsProxy()->getAttribute("a"), QString());
         QCOMPARE(region.getCommonAttrsProxy()->getRefElem(), static_cast<VySmilElemBase *>(&region));
         QVERIFY(!region.getCommonAttrsProxy()->getAttribute("a").isNull());
+    }
+
+    void storeIsAMap()
+    {
+        const QStringList names{
+            "", " ", "a", "ab", "b", "B", "dur", QString(QChar(0)), QString(2, QChar(0xd800))};
+        QRandomGenerator random(1);
+        const auto any = [&] { return names.at(random.bounded(int(names.size()))); };
+        VySmilElemUnknown elem;
+        QMap<QString, QString> expected;
+        for (int i = 0; i < 2000; ++i) {
+            const VySmilElemUnknown before(elem);
+            const QMap<QString, QString> expectedBefore = expected;
+            const QString name = any();
+            if (random.bounded(4) == 0) {
+                elem.rmAttribute(name);
+                expected.remove(name);
+            } else {
+                const QString value = any().repeated(random.bounded(9));
+                elem.setAttribute(name, value);
+                expected.insert(name, value);
+            }
+            QCOMPARE(elem.getAttribute(name), expected.value(name));
+            QCOMPARE(elem.getAttributes(), expected);
+            QCOMPARE(before.getAttributes(), expectedBefore);
+        }
+    }
+
+    void aClientMayKeepTheNamesThatItChecks()
+    {
+        struct KeepingElem : VySmilElemUnknown
+        {
+            bool isValidAttr(const QString &name, VySmil::SMIL_VERSION) const override
+            {
+                kept.append(name);
+                return true;
+            }
+            mutable QStringList kept;
+        };
+        KeepingElem elem;
+        elem.setElemType("par");
+        elem.setAttribute("x", "1");
+        QString out;
+        elem.toString(out, false, nullptr, VySmil::SMIL_VER_DEFAULT);
+        elem.rmAttribute("x");
+        elem.setAttribute("y", "1");
+        QCOMPARE(elem.kept, QStringList("x"));
     }
 
     void lookupsFilterByName()

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the VySmil authors
 // SPDX-License-Identifier: MIT
 
+#include <VySmil/model/attributerecords_p.h>
 #include <VySmil/model/vysmilelembase.h>
 
 #include <QSet>
@@ -49,50 +50,27 @@ void VySmilElemBase::copyFrom(const VySmilElemBase &other)
         subElements.append(copy);
 }
 
-// The position of name in attributes, or the one where it belongs.
-qsizetype VySmilElemBase::attributePosition(const QString &name) const
-{
-    const auto before = [](const Attribute &attribute, const QString &key) { return attribute.name < key; };
-    return std::lower_bound(attributes.cbegin(), attributes.cend(), name, before) - attributes.cbegin();
-}
-
-bool VySmilElemBase::isAttributeAt(qsizetype position, const QString &name) const
-{
-    return position < attributes.size() && attributes.at(position).name == name;
-}
-
 QString VySmilElemBase::getAttribute(const QString &name) const
 {
-    const qsizetype position = attributePosition(name);
-    return isAttributeAt(position, name) ? attributes.at(position).value : QStringLiteral("");
+    const QStringView value = VySmilPrivate::AttributeRecords(attributes).find(name);
+    return value.isEmpty() ? QStringLiteral("") : value.toString();
 }
 
 void VySmilElemBase::setAttribute(const QString &name, const QString &value)
 {
-    // Reading comes in ascending order.
-    if (attributes.isEmpty() || attributes.constLast().name < name) {
-        attributes.append({name, value});
-        return;
-    }
-    const qsizetype position = attributePosition(name);
-    if (isAttributeAt(position, name))
-        attributes[position].value = value;
-    else
-        attributes.insert(position, {name, value});
+    VySmilPrivate::setRecord(attributes, name, value);
 }
 
 void VySmilElemBase::rmAttribute(const QString &name)
 {
-    const qsizetype position = attributePosition(name);
-    if (isAttributeAt(position, name))
-        attributes.removeAt(position);
+    VySmilPrivate::removeRecord(attributes, name);
 }
 
 QMap<QString, QString> VySmilElemBase::getAttributes() const
 {
     QMap<QString, QString> map;
-    for (const Attribute &attribute : attributes)
-        map.insert(map.cend(), attribute.name, attribute.value);
+    for (const auto [name, value] : VySmilPrivate::AttributeRecords(attributes))
+        map.insert(map.cend(), name.toString(), value.toString());
     return map;
 }
 

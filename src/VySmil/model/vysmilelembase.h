@@ -124,22 +124,14 @@ protected:
     QString elemType; ///< the type name, for a class that has no fixed one
 
 private:
-    struct Attribute
-    {
-        QString name;
-        QString value;
-    };
-
     int readStartTag(const QDomElement &elem, const QString &tagName, bool strict,
                      VySmil::STATUS_CODE *status, VySmil::SMIL_VERSION version);
-    int writeStartTag(const QString &type, QString &out, bool strict, VySmil::STATUS_CODE *status,
-                      VySmil::SMIL_VERSION version) const;
-    qsizetype attributePosition(const QString &name) const;
-    bool isAttributeAt(qsizetype position, const QString &name) const;
+    int writeStartTag(const QString &type, bool mayKeepNames, QString &out, bool strict,
+                      VySmil::STATUS_CODE *status, VySmil::SMIL_VERSION version) const;
     qsizetype positionOf(unsigned int index, const QString &name) const;
 
     VySmilElemList subElements;
-    QList<Attribute> attributes; // ascending by name; an element has few, and a list takes one allocation
+    QString attributes; // records in ascending order of names: see attributerecords_p.h
 };
 
 #endif

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the VySmil authors
 // SPDX-License-Identifier: MIT
 
+#include <VySmil/model/attributerecords_p.h>
 #include <VySmil/model/vocabulary_p.h>
 #include <VySmil/model/vysmilelembase.h>
 
@@ -21,27 +22,33 @@ struct NameAndValue
     QString value;
 };
 
+// Costs next to nothing where there is nothing to trim, as in nearly all texts.
+QString trimmed(const QString &text)
+{
+    const bool isTrimmed = text.isEmpty() || !(text.front().isSpace() || text.back().isSpace());
+    return isTrimmed ? text : text.trimmed();
+}
+
 // Qt keeps a DOM element's attributes in a hash whose order changes from run to run. Walking the hash is
-// slow, so the names that messages are made of are looked up, and the hash is walked only where that does not
-// find all.
-QVarLengthArray<NameAndValue, 8> sortedAttributes(const QDomElement &elem, const QString &tag)
+// slow, so the names that messages are made of are looked up, the most frequent first, and the hash is walked
+// only where that does not find all.
+QVarLengthArray<NameAndValue, 6> sortedAttributes(const QDomElement &elem, const QString &tag)
 {
     using Names = std::array<QString, 6>;
-    static const Names mediaNames{QStringLiteral("src"),   QStringLiteral("dur"), QStringLiteral("region"),
-                                  QStringLiteral("begin"), QStringLiteral("end"), QStringLiteral("alt")};
+    static const Names mediaNames{QStringLiteral("src"),   QStringLiteral("region"), QStringLiteral("dur"),
+                                  QStringLiteral("begin"), QStringLiteral("end"),    QStringLiteral("alt")};
     static const Names layoutNames{QStringLiteral("width"), QStringLiteral("height"), QStringLiteral("id"),
                                    QStringLiteral("left"),  QStringLiteral("top"),    QStringLiteral("fit")};
     const bool isLayout = tag == QLatin1String("region") || tag == QLatin1String("root-layout");
-    const Names &frequentNames = isLayout ? layoutNames : mediaNames;
-    QVarLengthArray<NameAndValue, 8> sorted;
+    QVarLengthArray<NameAndValue, 6> sorted;
     const QDomNamedNodeMap map = elem.attributes();
     const int length = map.length();
-    for (const QString &name : frequentNames) {
+    for (const QString &name : isLayout ? layoutNames : mediaNames) {
         if (sorted.size() == length)
             break;
-        const QDomNode node = map.namedItem(name);
-        if (node.isAttr())
-            sorted.append({name, node.nodeValue()});
+        QString value = elem.attribute(name);
+        if (!value.isEmpty())
+            sorted.append({name, std::move(value)});
     }
     if (sorted.size() < length) {
         sorted.clear();
@@ -86,17 +93,16 @@ int VySmilElemBase::fromDomElem(const QDomElement &elem, bool strict, VySmil::ST
             path.back().elem->subElements.append(complete);
             continue;
         }
-        const QDomElement childElem = parent.nextChild;
-        parent.nextChild = childElem.nextSiblingElement();
-        const QString tag = childElem.tagName();
+        const QString tag = parent.nextChild.tagName();
         std::unique_ptr<VySmilElemBase> child(newElem(tag));
         if (!child)
             return VySmil::RESULT_NO_OBJECT;
-        result = child->readStartTag(childElem, tag, strict, status, version);
+        result = child->readStartTag(parent.nextChild, tag, strict, status, version);
         if (result != VySmil::RESULT_OK && strict)
             return result;
         const QDomElement grandchild =
-            result == VySmil::RESULT_OK ? childElem.firstChildElement() : QDomElement();
+            result == VySmil::RESULT_OK ? parent.nextChild.firstChildElement() : QDomElement();
+        parent.nextChild = parent.nextChild.nextSiblingElement();
         if (grandchild.isNull()) {
             parent.elem->subElements.append(child.release());
         } else {
@@ -109,20 +115,32 @@ int VySmilElemBase::fromDomElem(const QDomElement &elem, bool strict, VySmil::ST
 int VySmilElemBase::readStartTag(const QDomElement &elem, const QString &tagName, bool strict,
                                  VySmil::STATUS_CODE *status, VySmil::SMIL_VERSION version)
 {
-    const QString tag = tagName.trimmed();
+    const QString tag = trimmed(tagName);
     if (tag != getElemType())
         return VySmil::RESULT_UNUSABLE;
     if (const int result = VySmilPrivate::checkElement(*this, tag, strict, status, version))
         return result;
-    auto found = sortedAttributes(elem, tag);
-    attributes.reserve(attributes.size() + found.size());
-    for (NameAndValue &entry : found) {
-        const QString name = std::move(entry.name).trimmed();
+    const auto found = sortedAttributes(elem, tag);
+    bool isAscending = attributes.isEmpty();
+    if (isAscending) {
+        qsizetype size = 0;
+        for (const auto &[name, value] : found)
+            size += VySmilPrivate::recordSize(name, value);
+        attributes.reserve(size);
+    }
+    for (const auto &[storedName, storedValue] : found) {
+        const QString name = trimmed(storedName);
         if (const int result = VySmilPrivate::checkAttr(*this, name, strict, status, version))
             return result;
-        const QString value = name == QLatin1String("nohref") ? name : std::move(entry.value).trimmed();
-        if (!name.isEmpty() && !value.isEmpty())
-            setAttribute(name, value);
+        const QStringView value = name == QLatin1String("nohref") ? name : QStringView(storedValue).trimmed();
+        if (name.isEmpty() || value.isEmpty())
+            continue;
+        // A name that is trimmed may belong to another place.
+        isAscending = isAscending && name.size() == storedName.size();
+        if (isAscending)
+            VySmilPrivate::appendRecord(attributes, name, value);
+        else
+            VySmilPrivate::setRecord(attributes, name, value);
     }
     return VySmil::RESULT_OK;
 }

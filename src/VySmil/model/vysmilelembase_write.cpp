@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the VySmil authors
 // SPDX-License-Identifier: MIT
 
+#include <VySmil/model/attributerecords_p.h>
 #include <VySmil/model/vocabulary_p.h>
 #include <VySmil/model/vysmilelembase.h>
 #include <VySmil/model/xmltext_p.h>
@@ -19,11 +20,14 @@ int VySmilElemBase::toString(QString &out, bool strict, VySmil::STATUS_CODE *sta
         qsizetype nextChild;
     };
     std::vector<Writing> path;
+    path.reserve(16);
 
     const VySmilElemBase *elem = this;
     QString type = getElemType();
+    const bool isOfClient = !VySmilPrivate::isMadeByFactory(*this, type);
     for (;;) {
-        const int result = elem->writeStartTag(type, out, strict, status, version);
+        const bool mayKeepNames = isOfClient && elem == this;
+        const int result = elem->writeStartTag(type, mayKeepNames, out, strict, status, version);
         if (result != VySmil::RESULT_OK)
             return result;
         path.push_back({elem, type, 0});
@@ -51,33 +55,36 @@ int VySmilElemBase::toString(QString &out, bool strict, VySmil::STATUS_CODE *sta
     }
 }
 
-int VySmilElemBase::writeStartTag(const QString &type, QString &out, bool strict, VySmil::STATUS_CODE *status,
-                                  VySmil::SMIL_VERSION version) const
+// Our own classes look at a name and forget it, so that they need no copy of it.
+int VySmilElemBase::writeStartTag(const QString &type, bool mayKeepNames, QString &out, bool strict,
+                                  VySmil::STATUS_CODE *status, VySmil::SMIL_VERSION version) const
 {
     if (const int result = VySmilPrivate::checkElement(*this, type, strict, status, version))
         return result;
-    out += QStringView(u"<") + type;
+    out += u'<' + type;
+    const VySmilPrivate::AttributeRecords records(attributes);
     QSet<QString> writtenUntrimmed;
-    for (const Attribute &attribute : attributes) {
-        const QString name = attribute.name.trimmed();
+    for (const auto [storedName, storedValue] : records) {
+        const QStringView trimmedName = storedName.trimmed();
+        const QString name = mayKeepNames ? trimmedName.toString()
+                                          : QString::fromRawData(trimmedName.data(), trimmedName.size());
         if (const int result = VySmilPrivate::checkAttr(*this, name, strict, status, version))
             return result;
-        const QStringView value = QStringView(attribute.value).trimmed();
+        const QStringView value = storedValue.trimmed();
         if (name.isEmpty() || value.isEmpty())
             continue;
         // Of stored names that are the same once trimmed, the one that needs no trimming is written, else the
         // first: XML allows a name once.
-        if (name.size() != attribute.name.size()) {
-            const QString trimmedTwin = getAttribute(name);
-            if (!QStringView(trimmedTwin).trimmed().isEmpty() || writtenUntrimmed.contains(name))
+        if (name.size() != storedName.size()) {
+            if (!records.find(name).trimmed().isEmpty() || writtenUntrimmed.contains(name))
                 continue;
             writtenUntrimmed.insert(name);
         }
         if (name == QLatin1String("nohref")) {
-            out += QStringView(u" ") + name;
+            out += u' ' + name;
             continue;
         }
-        out += QStringView(u" ") + name + QStringView(u"=\"");
+        out += u' ' + trimmedName + QStringView(u"=\"");
         VySmilPrivate::appendAttributeValue(out, value);
         out += u'"';
     }

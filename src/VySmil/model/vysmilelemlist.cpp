@@ -11,8 +11,11 @@ VySmilElemList::~VySmilElemList()
 
 void VySmilElemList::append(VySmilElemBase *elem)
 {
-    if (elem)
-        entries.append(elem);
+    if (!elem)
+        return;
+    if (entries.isEmpty())
+        entries.reserve(4);
+    entries.append(elem);
 }
 
 void VySmilElemList::insert(qsizetype index, VySmilElemBase *elem)

@@ -136,6 +136,12 @@ private Q_SLOTS:
             "0 0 smil[old=1](head(layout(region[id=I width=5])) body(par[dur=5s](img[src=a&b€])))");
         row("before the root", "junk <?xml version='1.0'?><!DOCTYPE smil [<!ENTITY e 'x'>]>  <smil/> ",
             "0 0 smil[old=1]", "0 0 smil[old=1]");
+        row("white space between markup",
+            "<smil>\r\n<body>\t<par> <img/> </par>\n<!-- --> <?p?> <![CDATA[ ]]> </body> </smil> <!-- -->",
+            "0 0 smil[old=1](body(par(img)))", "0 0 smil[old=1](body(par(img)))");
+        row("no-break space behind the root", QString("<smil/>") + QChar(0xa0) + "<!-- -->", refused,
+            refused);
+        row("text behind the root", "<smil/> x <!-- -->", refused, refused);
         row("root in a comment", "<!-- <smil --><smil/>", refused, refused);
         row("capital root", "<SMIL><body/></SMIL>", "3 0 smil[old=1]", "3 0 smil[old=1]");
         row("other root", "<?xml version='1.0'?><html/>", "3 0 smil[old=1]", "3 0 smil[old=1]");

@@ -46,34 +46,48 @@ Tag scanTag(QStringView text, qsizetype from, int maxLiterals)
     return tag;
 }
 
+bool isWhiteSpace(QStringView text)
+{
+    return std::all_of(text.begin(), text.end(),
+                       [](QChar c) { return c == u' ' || c == u'\n' || c == u'\r' || c == u'\t'; });
+}
+
 } // namespace
 
-bool VySmilPrivate::isWithinBounds(QStringView text, int maxDepth, int maxAttributes)
+std::optional<QString> VySmilPrivate::boundedDocument(QStringView text, int maxDepth, int maxAttributes)
 {
+    QString document;
+    document.reserve(text.size());
+    qsizetype taken = 0; // what is before it stands in document, or is left out
+    qsizetype end = 0;   // of the latest markup
     int depth = 0;
-    for (qsizetype pos = text.indexOf(u'<'); pos >= 0; pos = text.indexOf(u'<', pos)) {
+    for (qsizetype pos = text.indexOf(u'<'); pos >= 0; pos = text.indexOf(u'<', end)) {
+        if (end > 0 && end < pos && isWhiteSpace(text.sliced(end, pos - end))) {
+            document += text.sliced(taken, end - taken);
+            taken = pos;
+        }
         const char16_t next = pos + 1 < text.size() ? text[pos + 1].unicode() : u'\0';
         const QStringView markup = text.sliced(pos);
         if (next == u'/') {
             --depth;
-            pos = skipPast(text, u">", pos);
+            end = skipPast(text, u">", pos);
         } else if (next == u'?') {
-            pos = skipPast(text, u"?>", pos);
+            end = skipPast(text, u"?>", pos);
         } else if (next == u'!' && markup.startsWith(u"<!--")) {
-            pos = skipPast(text, u"-->", pos + 4);
+            end = skipPast(text, u"-->", pos + 4);
         } else if (next == u'!' && markup.startsWith(u"<![CDATA[")) {
-            pos = skipPast(text, u"]]>", pos);
+            end = skipPast(text, u"]]>", pos);
         } else {
             const Tag tag = scanTag(text, pos, maxAttributes);
             // No tag holds a "[" outside of its values.
             if (tag.hasSubset || tag.literals > maxAttributes)
-                return false;
+                return std::nullopt;
             if (next != u'!' && ++depth > maxDepth)
-                return false;
-            pos = tag.end;
-            if (next != u'!' && text[pos - 1] == u'>' && text[pos - 2] == u'/')
+                return std::nullopt;
+            end = tag.end;
+            if (next != u'!' && text[end - 1] == u'>' && text[end - 2] == u'/')
                 --depth;
         }
     }
-    return true;
+    return document += text.sliced(taken);
 }

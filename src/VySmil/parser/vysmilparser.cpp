@@ -11,17 +11,18 @@ int VySmilParser::parse(const QString &text, VySmilElemSmil *root, bool strict, 
 {
     if (status)
         *status = VySmil::STATUS_OK;
-    QString document = text.trimmed();
+    QStringView document = QStringView(text).trimmed();
     if (!root || document.isEmpty())
         return VySmil::RESULT_UNUSABLE;
-    root->clearSubElements();
     if (const qsizetype start = document.indexOf(QLatin1String("<smil")); start > 0)
-        document.remove(0, start);
+        document = document.sliced(start);
 
-    if (!VySmilPrivate::isWithinBounds(document, MAX_DEPTH, MAX_ATTRIBUTES))
-        return VySmil::RESULT_MALFORMED;
     QDomDocument dom;
-    if (!dom.setContent(document))
+    bool isWellFormed = false;
+    if (const auto bounded = VySmilPrivate::boundedDocument(document, MAX_DEPTH, MAX_ATTRIBUTES))
+        isWellFormed = dom.setContent(*bounded);
+    root->clearSubElements();
+    if (!isWellFormed)
         return VySmil::RESULT_MALFORMED;
     return root->fromDomElem(dom.documentElement(), strict, status, version);
 }

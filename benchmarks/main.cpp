@@ -6,6 +6,9 @@
 
 #include <benchmark/benchmark.h>
 
+#include <malloc.h>
+
+#include <climits>
 #include <cstdio>
 
 namespace {
@@ -39,6 +42,10 @@ int main(int argc, char **argv)
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;
+    // What the heap once got it keeps. Otherwise it depends on what ran before, and not on what is compared,
+    // who has to fetch pages again.
+    mallopt(M_TRIM_THRESHOLD, INT_MAX);
+    mallopt(M_MMAP_THRESHOLD, INT_MAX);
     TableReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     return 0;

@@ -13,6 +13,7 @@ void VySmilElemList::append(VySmilElemBase *elem)
 {
     if (!elem)
         return;
+    // Most elements that have children have a few: one allocation holds them.
     if (entries.isEmpty())
         entries.reserve(4);
     entries.append(elem);

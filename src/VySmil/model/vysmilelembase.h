@@ -8,7 +8,6 @@
 #include <VySmil/model/vysmilbase.h>
 #include <VySmil/model/vysmilelemlist.h>
 
-#include <QList>
 #include <QMap>
 #include <QString>
 

@@ -22,13 +22,6 @@ struct NameAndValue
     QString value;
 };
 
-// Costs next to nothing where there is nothing to trim, as in nearly all texts.
-QString trimmed(const QString &text)
-{
-    const bool isTrimmed = text.isEmpty() || !(text.front().isSpace() || text.back().isSpace());
-    return isTrimmed ? text : text.trimmed();
-}
-
 // Qt keeps a DOM element's attributes in a hash whose order changes from run to run. Walking the hash is
 // slow, so the names that messages are made of are looked up, the most frequent first, and the hash is walked
 // only where that does not find all.
@@ -115,7 +108,7 @@ int VySmilElemBase::fromDomElem(const QDomElement &elem, bool strict, VySmil::ST
 int VySmilElemBase::readStartTag(const QDomElement &elem, const QString &tagName, bool strict,
                                  VySmil::STATUS_CODE *status, VySmil::SMIL_VERSION version)
 {
-    const QString tag = trimmed(tagName);
+    const QString tag = tagName.trimmed();
     if (tag != getElemType())
         return VySmil::RESULT_UNUSABLE;
     if (const int result = VySmilPrivate::checkElement(*this, tag, strict, status, version))
@@ -129,7 +122,7 @@ int VySmilElemBase::readStartTag(const QDomElement &elem, const QString &tagName
         attributes.reserve(size);
     }
     for (const auto &[storedName, storedValue] : found) {
-        const QString name = trimmed(storedName);
+        const QString name = storedName.trimmed();
         if (const int result = VySmilPrivate::checkAttr(*this, name, strict, status, version))
             return result;
         const QStringView value = name == QLatin1String("nohref") ? name : QStringView(storedValue).trimmed();

@@ -19,6 +19,7 @@ int VySmilParser::parse(const QString &text, VySmilElemSmil *root, bool strict, 
 
     QDomDocument dom;
     bool isWellFormed = false;
+    // The copy for the DOM is gone before the tree is built.
     if (const auto bounded = VySmilPrivate::boundedDocument(document, MAX_DEPTH, MAX_ATTRIBUTES))
         isWellFormed = dom.setContent(*bounded);
     root->clearSubElements();

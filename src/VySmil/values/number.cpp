@@ -105,3 +105,13 @@ bool VySmilPrivate::readFloat(QStringView text, float &number)
     number = static_cast<float>(value);
     return length == text.size();
 }
+
+bool VySmilPrivate::readFraction(QStringView text, float &fraction)
+{
+    const qsizetype percent = text.indexOf(u'%');
+    if (percent < 0)
+        return false;
+    const bool isRead = readFloat(text.first(percent), fraction);
+    fraction /= 100;
+    return isRead;
+}

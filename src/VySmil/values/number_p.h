@@ -24,6 +24,10 @@ bool readUnsigned(QStringView text, quint32 &number);
 /// one.
 bool readFloat(QStringView text, float &number);
 
+/// A float before the first "%", as a fraction of 1; what comes behind the "%" does not matter. Without a "%"
+/// false, and \a fraction stays; otherwise it is left as by readFloat(), divided by 100.
+bool readFraction(QStringView text, float &fraction);
+
 /// The result of a fromString() that hangs on one number.
 inline int resultOf(bool isRead)
 {
@@ -42,6 +46,12 @@ inline QString fixedSix(float number)
 inline QString significantSix(float number)
 {
     return QString::number(static_cast<double>(number), 'g', 6);
+}
+
+/// A fraction of 1 as a percentage, with at most six significant digits.
+inline QString fractionText(float fraction)
+{
+    return significantSix(fraction * 100) + u'%';
 }
 
 /// At least two characters wide, filled up with \a fill.

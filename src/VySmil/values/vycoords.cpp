@@ -4,8 +4,6 @@
 #include <VySmil/values/number_p.h>
 #include <VySmil/values/vycoords.h>
 
-#include <algorithm>
-
 namespace {
 
 // The text before the first remaining ",", which is cut off rest with the ","; without one all of rest, which
@@ -18,16 +16,6 @@ QStringView nextPiece(QStringView &rest)
     const QStringView piece = rest.first(comma);
     rest = rest.sliced(comma + 1);
     return piece;
-}
-
-bool readPercent(QStringView piece, float &fraction)
-{
-    const qsizetype percent = piece.indexOf(u'%');
-    if (percent < 0)
-        return false;
-    const bool isRead = VySmilPrivate::readFloat(piece.first(percent), fraction);
-    fraction /= 100;
-    return isRead;
 }
 
 } // namespace
@@ -43,8 +31,8 @@ int VySmil::VyCoords::fromString(const QString &text)
         return RESULT_UNUSABLE;
     for (Value &slot : coords) {
         const QStringView piece = nextPiece(rest);
-        const bool isRead =
-            inPercent ? readPercent(piece, slot.fraction) : VySmilPrivate::readSigned(piece, slot.pixels);
+        const bool isRead = inPercent ? VySmilPrivate::readFraction(piece, slot.fraction)
+                                      : VySmilPrivate::readSigned(piece, slot.pixels);
         if (!isRead)
             return RESULT_UNUSABLE;
     }
@@ -63,7 +51,7 @@ QString VySmil::VyCoords::toString() const
         if (unit == UNIT_PIXELS)
             text += QString::number(slot.pixels);
         else
-            text += VySmilPrivate::significantSix(slot.fraction * 100) + u'%';
+            text += VySmilPrivate::fractionText(slot.fraction);
     }
     return text;
 }

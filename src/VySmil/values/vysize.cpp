@@ -15,11 +15,9 @@ int VySmil::VySize::fromString(const QString &text)
         unit = UNIT_PIXELS;
         return VySmilPrivate::resultOf(VySmilPrivate::readSigned(trimmed.first(px), value.pixels));
     }
-    if (const qsizetype percent = trimmed.indexOf(u'%'); percent >= 0) {
+    if (trimmed.contains(u'%')) {
         unit = UNIT_PERCENT;
-        const bool isRead = VySmilPrivate::readFloat(trimmed.first(percent), value.fraction);
-        value.fraction /= 100;
-        return VySmilPrivate::resultOf(isRead);
+        return VySmilPrivate::resultOf(VySmilPrivate::readFraction(trimmed, value.fraction));
     }
     return RESULT_UNUSABLE;
 }
@@ -32,6 +30,6 @@ QString VySmil::VySize::toString() const
     case UNIT_PIXELS:
         return QString::number(value.pixels) + QStringView(u"px");
     default:
-        return VySmilPrivate::significantSix(value.fraction * 100) + u'%';
+        return VySmilPrivate::fractionText(value.fraction);
     }
 }

@@ -39,8 +39,7 @@ public:
     /// The element's name: fixed by the class, but for VySmilElemUnknown.
     virtual QString getElemType() const = 0;
 
-    /// Whether the element accepts an attribute called \a name under \a version. Compared exactly, not
-    /// trimmed.
+    /// Whether the element accepts an attribute called exactly \a name, untrimmed, under \a version.
     virtual bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const = 0;
 
     /// Appends the text of the element and its subtree: a line per tag, attributes in name order.
@@ -54,16 +53,14 @@ public:
     /// \param strict stop at the first finding instead of going on
     /// \param status gets each finding unless it is null; it is never reset here
     /// \param version whose vocabulary is applied
-    /// \return VySmil::RESULT_OK, or in a strict run VySmil::RESULT_INVALID_ELEMENT (nothing of that element
-    /// is
-    ///         appended) or VySmil::RESULT_INVALID_ATTR (the attributes before it are); \a out then holds an
-    ///         unfinished text. What a text without findings holds, VySmilParser::parse() reads back, within
-    ///         its bounds.
+    /// \return VySmil::RESULT_OK, or in a strict run VySmil::RESULT_INVALID_ELEMENT (with nothing of that
+    ///         element appended) or VySmil::RESULT_INVALID_ATTR (with the attributes before it appended);
+    ///         \a out then holds an unfinished text. What a text without findings holds,
+    ///         VySmilParser::parse() reads back, within its bounds.
     virtual int toString(QString &out, bool strict, VySmil::STATUS_CODE *status,
                          VySmil::SMIL_VERSION version) const;
 
-    /// Adds the attributes and child elements of a DOM element to this element, which must bear the same
-    /// name.
+    /// Adds the attributes and child elements of a DOM element to this element, which must bear its name.
     ///
     /// Attributes are handled in ascending order of their names and stored trimmed; empty values are not
     /// stored (but "nohref" always is, with its name as its value). Text, comments and the like are dropped.
@@ -72,9 +69,9 @@ public:
     /// \param strict stop at the first finding instead of going on
     /// \param status gets each finding unless it is null; it is never reset here
     /// \param version whose vocabulary is applied
-    /// \return VySmil::RESULT_OK; VySmil::RESULT_UNUSABLE if the trimmed tag is not getElemType(), with
-    /// nothing
-    ///         changed; in a strict run VySmil::RESULT_INVALID_ELEMENT or VySmil::RESULT_INVALID_ATTR;
+    /// \return VySmil::RESULT_OK;
+    ///         VySmil::RESULT_UNUSABLE if the trimmed tag is not getElemType(), with nothing changed;
+    ///         in a strict run VySmil::RESULT_INVALID_ELEMENT or VySmil::RESULT_INVALID_ATTR;
     ///         VySmil::RESULT_NO_OBJECT in any run. After a failure the element keeps what was complete
     ///         before: its own attributes up to the fault, and the children before the one in which it
     ///         happened. In a run that is not strict, a child whose tag does not fit stays, empty.
@@ -92,8 +89,7 @@ public:
 
     /// The number of children.
     unsigned int getSubElementsCount() const;
-    /// The number of children whose type name is \a name. An empty \a name counts those with an empty type
-    /// name.
+    /// The number of children whose type name is exactly \a name, also where that is empty.
     unsigned int getSubElementCounts(const QString &name) const;
     /// The child at position \a index among those whose type name is \a name, where an empty \a name stands
     /// for all children. Null if there is none. The child stays owned by the tree.

@@ -61,8 +61,7 @@ QVarLengthArray<NameAndValue, 6> sortedAttributes(const QDomElement &elem, const
 int VySmilElemBase::fromDomElem(const QDomElement &elem, bool strict, VySmil::STATUS_CODE *status,
                                 VySmil::SMIL_VERSION version)
 {
-    // An element whose children are being read; all but the first belong to this walk until they are
-    // complete.
+    // An element whose children are being read. All but the first belong to this walk until complete.
     struct Reading
     {
         VySmilElemBase *elem;

@@ -16,7 +16,9 @@ bool isExempt(const VySmil::VyWallClockSyncTime &time)
     // there is nothing to read it from. Numbers of more than their two digits no longer fit their place, nor
     // do dates outside of four digits; no reading gives either, but fields stay from earlier reads.
     const bool isDateOnly = time.hours == 0 && time.minutes == 0 && time.seconds < 1e-7F;
-    return isDateOnly && time.utc && time.offsetHours == 0 && time.offsetMinutes == 0;
+    // A fraction of a second that six decimals cannot show is printed as no seconds, which are then left out.
+    const bool losesSeconds = time.seconds >= 1e-7F && time.seconds <= 5e-7F;
+    return losesSeconds || (isDateOnly && time.utc && time.offsetHours == 0 && time.offsetMinutes == 0);
 }
 bool isExempt(const VySmil::VyTimeOffset &offset)
 {

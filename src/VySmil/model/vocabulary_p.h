@@ -4,7 +4,7 @@
 #ifndef VYSMIL_VOCABULARY_P_H
 #define VYSMIL_VOCABULARY_P_H
 
-#include <VySmil/model/vysmil.h>
+#include <VySmil/vysmil.h>
 
 #include <QString>
 

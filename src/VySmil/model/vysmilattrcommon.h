@@ -4,8 +4,8 @@
 #ifndef VYSMIL_VYSMILATTRCOMMON_H
 #define VYSMIL_VYSMILATTRCOMMON_H
 
-#include <VySmil/model/vysmil.h>
 #include <VySmil/model/vysmilattrbase.h>
+#include <VySmil/vysmil.h>
 
 /// The attribute "id", which names an element.
 class VYSMIL_EXPORT VySmilAttrCommon : public VySmilAttrBase

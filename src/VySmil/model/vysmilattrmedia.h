@@ -4,8 +4,8 @@
 #ifndef VYSMIL_VYSMILATTRMEDIA_H
 #define VYSMIL_VYSMILATTRMEDIA_H
 
-#include <VySmil/model/vysmil.h>
 #include <VySmil/model/vysmilattrbase.h>
+#include <VySmil/vysmil.h>
 
 /// The attribute "src", which says where the media of a media object are.
 class VYSMIL_EXPORT VySmilAttrMedia : public VySmilAttrBase

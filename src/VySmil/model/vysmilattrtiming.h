@@ -4,9 +4,9 @@
 #ifndef VYSMIL_VYSMILATTRTIMING_H
 #define VYSMIL_VYSMILATTRTIMING_H
 
-#include <VySmil/model/vysmil.h>
 #include <VySmil/model/vysmilattrbase.h>
 #include <VySmil/time/vytime.h>
+#include <VySmil/vysmil.h>
 
 /// The attributes "begin", "end" and "dur" (W3C SMIL 2.0, Timing and Synchronization).
 ///

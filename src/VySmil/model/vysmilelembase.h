@@ -4,9 +4,9 @@
 #ifndef VYSMIL_VYSMILELEMBASE_H
 #define VYSMIL_VYSMILELEMBASE_H
 
-#include <VySmil/model/vysmil.h>
 #include <VySmil/model/vysmilbase.h>
 #include <VySmil/model/vysmilelemlist.h>
+#include <VySmil/vysmil.h>
 
 #include <QMap>
 #include <QString>

@@ -4,7 +4,7 @@
 #ifndef VYSMIL_VYTIMECOUNT_H
 #define VYSMIL_VYTIMECOUNT_H
 
-#include <VySmil/model/vysmil.h>
+#include <VySmil/vysmil.h>
 
 #include <QString>
 

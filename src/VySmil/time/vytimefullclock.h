@@ -4,7 +4,7 @@
 #ifndef VYSMIL_VYTIMEFULLCLOCK_H
 #define VYSMIL_VYTIMEFULLCLOCK_H
 
-#include <VySmil/model/vysmil.h>
+#include <VySmil/vysmil.h>
 
 #include <QString>
 

@@ -4,7 +4,7 @@
 #ifndef VYSMIL_VYTIMEMEDIAMARKER_H
 #define VYSMIL_VYTIMEMEDIAMARKER_H
 
-#include <VySmil/model/vysmil.h>
+#include <VySmil/vysmil.h>
 
 #include <QString>
 

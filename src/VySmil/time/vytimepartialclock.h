@@ -4,7 +4,7 @@
 #ifndef VYSMIL_VYTIMEPARTIALCLOCK_H
 #define VYSMIL_VYTIMEPARTIALCLOCK_H
 
-#include <VySmil/model/vysmil.h>
+#include <VySmil/vysmil.h>
 
 #include <QString>
 

@@ -4,7 +4,7 @@
 #ifndef VYSMIL_VYTIMESMPTE_H
 #define VYSMIL_VYTIMESMPTE_H
 
-#include <VySmil/model/vysmil.h>
+#include <VySmil/vysmil.h>
 
 #include <QString>
 

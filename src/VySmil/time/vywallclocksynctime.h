@@ -4,7 +4,7 @@
 #ifndef VYSMIL_VYWALLCLOCKSYNCTIME_H
 #define VYSMIL_VYWALLCLOCKSYNCTIME_H
 
-#include <VySmil/model/vysmil.h>
+#include <VySmil/vysmil.h>
 
 #include <QDate>
 #include <QString>

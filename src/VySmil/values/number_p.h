@@ -4,7 +4,7 @@
 #ifndef VYSMIL_NUMBER_P_H
 #define VYSMIL_NUMBER_P_H
 
-#include <VySmil/model/vysmil.h>
+#include <VySmil/vysmil.h>
 
 #include <QString>
 

@@ -4,7 +4,7 @@
 #ifndef VYSMIL_VYBANDWIDTH_H
 #define VYSMIL_VYBANDWIDTH_H
 
-#include <VySmil/model/vysmil.h>
+#include <VySmil/vysmil.h>
 
 #include <QString>
 

@@ -4,7 +4,7 @@
 #ifndef VYSMIL_VYCOLOR_H
 #define VYSMIL_VYCOLOR_H
 
-#include <VySmil/model/vysmil.h>
+#include <VySmil/vysmil.h>
 
 #include <QColor>
 #include <QString>

@@ -4,7 +4,7 @@
 #ifndef VYSMIL_VYCOORDS_H
 #define VYSMIL_VYCOORDS_H
 
-#include <VySmil/model/vysmil.h>
+#include <VySmil/vysmil.h>
 
 #include <QString>
 

@@ -4,7 +4,7 @@
 #ifndef VYSMIL_VYCOUNT_H
 #define VYSMIL_VYCOUNT_H
 
-#include <VySmil/model/vysmil.h>
+#include <VySmil/vysmil.h>
 
 #include <QString>
 

@@ -4,7 +4,7 @@
 #ifndef VYSMIL_VYINDEX_H
 #define VYSMIL_VYINDEX_H
 
-#include <VySmil/model/vysmil.h>
+#include <VySmil/vysmil.h>
 
 #include <QString>
 

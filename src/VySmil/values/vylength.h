@@ -4,7 +4,7 @@
 #ifndef VYSMIL_VYLENGTH_H
 #define VYSMIL_VYLENGTH_H
 
-#include <VySmil/model/vysmil.h>
+#include <VySmil/vysmil.h>
 
 #include <QString>
 

@@ -4,7 +4,7 @@
 #ifndef VYSMIL_VYMEDIALENGTH_H
 #define VYSMIL_VYMEDIALENGTH_H
 
-#include <VySmil/model/vysmil.h>
+#include <VySmil/vysmil.h>
 
 #include <QString>
 

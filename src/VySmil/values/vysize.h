@@ -4,7 +4,7 @@
 #ifndef VYSMIL_VYSIZE_H
 #define VYSMIL_VYSIZE_H
 
-#include <VySmil/model/vysmil.h>
+#include <VySmil/vysmil.h>
 
 #include <QString>
 

@@ -36,13 +36,12 @@ inline void report(benchmark::State &state, double ratio, const char *baseline, 
 }
 
 /// Runs \a work a few times and adds the times to \a times, but for the first run, which finds caches and
-/// heap as other work left them. Before each run \a prepare runs untimed.
-template <typename Work, typename Prepare>
-double measure(std::vector<double> &times, Work work, Prepare prepare)
+/// heap as other work left them.
+template <typename Work>
+double measure(std::vector<double> &times, Work work)
 {
     double total = 0;
     for (int run = 0; run < 6; ++run) {
-        prepare();
         const double time = seconds(work);
         total += time;
         if (run > 0)
@@ -53,17 +52,14 @@ double measure(std::vector<double> &times, Work work, Prepare prepare)
 
 /// Runs \a subject and its \a baseline in turn and reports the ratio of their median times, multiplied by
 /// \a scale.
-template <typename Subject, typename Baseline, typename Prepare = void (*)()>
-void compare(
-    benchmark::State &state, Subject subject, Baseline baseline, const char *baselineName, double bound,
-    double scale = 1, Prepare prepareSubject = [] {})
+template <typename Subject, typename Baseline>
+void compare(benchmark::State &state, Subject subject, Baseline baseline, const char *baselineName,
+             double bound, double scale = 1)
 {
     std::vector<double> subjectTimes;
     std::vector<double> baselineTimes;
     for (auto _ : state) {
-        const double total =
-            measure(baselineTimes, baseline, [] {}) + measure(subjectTimes, subject, prepareSubject);
-        state.SetIterationTime(total);
+        state.SetIterationTime(measure(baselineTimes, baseline) + measure(subjectTimes, subject));
     }
     report(state, scale * median(subjectTimes) / median(baselineTimes), baselineName, bound);
 }

@@ -104,17 +104,34 @@ bool VySmilPrivate::isMadeByFactory(const VySmilElemBase &elem, QStringView type
     return (known && known->isClassOf(elem)) || isExactly<VySmilElemUnknown>(elem);
 }
 
-VySmilElemBase *VySmilElemBase::newElem(const QString &name)
+QString VySmilPrivate::attributeName(QStringView name)
+{
+    static const QString known[] = {
+        QStringLiteral("src"),    QStringLiteral("region"),  QStringLiteral("dur"), QStringLiteral("begin"),
+        QStringLiteral("end"),    QStringLiteral("alt"),     QStringLiteral("id"),  QStringLiteral("width"),
+        QStringLiteral("height"), QStringLiteral("left"),    QStringLiteral("top"), QStringLiteral("fit"),
+        QStringLiteral("name"),   QStringLiteral("content"),
+    };
+    const auto *const found = std::find(std::begin(known), std::end(known), name);
+    return found == std::end(known) ? name.toString() : *found;
+}
+
+VySmilElemBase *VySmilPrivate::makeElem(QStringView name)
 {
     const ElementClass *known = findElementClass(name);
     if (!known)
-        known = findElementClass(name.trimmed().toLower());
+        known = findElementClass(name.trimmed().toString().toLower());
     if (known)
         return known->make();
     auto *unknown = new (std::nothrow) VySmilElemUnknown;
     if (unknown)
-        unknown->setElemType(name);
+        unknown->setElemType(name.toString());
     return unknown;
+}
+
+VySmilElemBase *VySmilElemBase::newElem(const QString &name)
+{
+    return VySmilPrivate::makeElem(name);
 }
 
 // A plain member although it does not look at the object: that is how clients call it.

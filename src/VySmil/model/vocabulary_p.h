@@ -29,6 +29,12 @@ int checkElement(const VySmilElemBase &elem, const QString &type, bool strict, V
 int checkAttr(const VySmilElemBase &elem, const QString &name, bool strict, VySmil::STATUS_CODE *status,
               VySmil::SMIL_VERSION version);
 
+/// The string of an attribute name. The names of the vocabulary share a literal each.
+QString attributeName(QStringView name);
+
+/// What VySmilElemBase::newElem() gives for \a name.
+VySmilElemBase *makeElem(QStringView name);
+
 /// Whether the class of \a elem, whose type name is \a type, is one that newElem() makes, and not one that a
 /// client derived.
 bool isMadeByFactory(const VySmilElemBase &elem, QStringView type);

@@ -3,14 +3,8 @@
 
 #include <VySmil/model/vysmilattrcommon.h>
 
-VySmilAttrCommon::VySmilAttrCommon(VySmilElemBase *elem)
+bool VySmilAttrCommon::isValidAttr(const QString &name, VySmil::SMIL_VERSION) const
 {
-    setRefElem(elem);
-}
-
-bool VySmilAttrCommon::isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const
-{
-    Q_UNUSED(version)
     return name == QLatin1String("id");
 }
 

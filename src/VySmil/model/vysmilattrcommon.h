@@ -12,7 +12,7 @@ class VYSMIL_EXPORT VySmilAttrCommon : public VySmilAttrBase
 {
 public:
     /// The group of \a elem.
-    explicit VySmilAttrCommon(VySmilElemBase *elem);
+    explicit VySmilAttrCommon(VySmilElemBase *elem) { setRefElem(elem); }
 
     /// Whether \a name belongs to the group, under any version.
     bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const;

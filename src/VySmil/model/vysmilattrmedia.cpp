@@ -3,14 +3,8 @@
 
 #include <VySmil/model/vysmilattrmedia.h>
 
-VySmilAttrMedia::VySmilAttrMedia(VySmilElemBase *elem)
+bool VySmilAttrMedia::isValidAttr(const QString &name, VySmil::SMIL_VERSION) const
 {
-    setRefElem(elem);
-}
-
-bool VySmilAttrMedia::isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const
-{
-    Q_UNUSED(version)
     return name == QLatin1String("src");
 }
 

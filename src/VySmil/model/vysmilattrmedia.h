@@ -12,7 +12,7 @@ class VYSMIL_EXPORT VySmilAttrMedia : public VySmilAttrBase
 {
 public:
     /// The group of \a elem.
-    explicit VySmilAttrMedia(VySmilElemBase *elem);
+    explicit VySmilAttrMedia(VySmilElemBase *elem) { setRefElem(elem); }
 
     /// Whether \a name belongs to the group, under any version.
     bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const;

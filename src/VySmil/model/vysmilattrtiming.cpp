@@ -4,14 +4,8 @@
 #include <VySmil/model/typedattribute_p.h>
 #include <VySmil/model/vysmilattrtiming.h>
 
-VySmilAttrTiming::VySmilAttrTiming(VySmilElemBase *elem)
+bool VySmilAttrTiming::isValidAttr(const QString &name, VySmil::SMIL_VERSION) const
 {
-    setRefElem(elem);
-}
-
-bool VySmilAttrTiming::isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const
-{
-    Q_UNUSED(version)
     return name == QLatin1String("begin") || name == QLatin1String("end") || name == QLatin1String("dur");
 }
 

@@ -17,7 +17,7 @@ class VYSMIL_EXPORT VySmilAttrTiming : public VySmilAttrBase
 {
 public:
     /// The group of \a elem.
-    explicit VySmilAttrTiming(VySmilElemBase *elem);
+    explicit VySmilAttrTiming(VySmilElemBase *elem) { setRefElem(elem); }
 
     /// Whether \a name belongs to the group, under any version.
     bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const;

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 the VySmil authors
 // SPDX-License-Identifier: MIT
 
-#include <VySmil/model/attributerecords_p.h>
 #include <VySmil/model/vysmilelembase.h>
 
 #include <QSet>
@@ -9,6 +8,15 @@
 #include <algorithm>
 #include <utility>
 #include <vector>
+
+namespace {
+
+bool isBefore(const std::pair<QString, QString> &attribute, const QString &name)
+{
+    return attribute.first < name;
+}
+
+} // namespace
 
 VySmilElemBase::VySmilElemBase()
 {
@@ -40,7 +48,9 @@ void VySmilElemBase::copyFrom(const VySmilElemBase &other)
             VySmilElemBase *copy = newElem(child->getElemType());
             if (!copy)
                 continue;
-            copy->elemType = child->elemType;
+            // A class of the client's may report a name without keeping it there; its copy is the factory's.
+            if (!child->elemType.isEmpty())
+                copy->elemType = child->elemType;
             copy->attributes = child->attributes;
             target->append(copy);
             pending.emplace_back(child, &copy->subElements);
@@ -52,25 +62,35 @@ void VySmilElemBase::copyFrom(const VySmilElemBase &other)
 
 QString VySmilElemBase::getAttribute(const QString &name) const
 {
-    const QStringView value = VySmilPrivate::AttributeRecords(attributes).find(name);
-    return value.isEmpty() ? QStringLiteral("") : value.toString();
+    const auto place = std::lower_bound(attributes.begin(), attributes.end(), name, isBefore);
+    const bool isThere = place != attributes.end() && place->first == name;
+    return isThere && !place->second.isEmpty() ? place->second : QStringLiteral("");
 }
 
 void VySmilElemBase::setAttribute(const QString &name, const QString &value)
 {
-    VySmilPrivate::setRecord(attributes, name, value);
+    const auto place = std::lower_bound(attributes.begin(), attributes.end(), name, isBefore);
+    if (place != attributes.end() && place->first == name) {
+        place->second = value;
+        return;
+    }
+    const qsizetype index = place - attributes.begin();
+    // Most elements have a few attributes: one allocation holds them.
+    if (attributes.isEmpty())
+        attributes.reserve(4);
+    attributes.insert(index, {name, value});
 }
 
 void VySmilElemBase::rmAttribute(const QString &name)
 {
-    VySmilPrivate::removeRecord(attributes, name);
+    attributes.removeIf([&name](const auto &attribute) { return attribute.first == name; });
 }
 
 QMap<QString, QString> VySmilElemBase::getAttributes() const
 {
     QMap<QString, QString> map;
-    for (const auto [name, value] : VySmilPrivate::AttributeRecords(attributes))
-        map.insert(map.cend(), name.toString(), value.toString());
+    for (const auto &[name, value] : attributes)
+        map.insert(map.cend(), name, value);
     return map;
 }
 

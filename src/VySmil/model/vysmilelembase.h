@@ -119,14 +119,12 @@ protected:
     QString elemType; ///< the type name, for a class that has no fixed one
 
 private:
-    int readStartTag(const QDomElement &elem, const QString &tagName, bool strict,
-                     VySmil::STATUS_CODE *status, VySmil::SMIL_VERSION version);
-    int writeStartTag(const QString &type, bool mayKeepNames, QString &out, bool strict,
-                      VySmil::STATUS_CODE *status, VySmil::SMIL_VERSION version) const;
+    int writeStartTag(const QString &type, QString &out, bool strict, VySmil::STATUS_CODE *status,
+                      VySmil::SMIL_VERSION version) const;
     qsizetype positionOf(unsigned int index, const QString &name) const;
 
     VySmilElemList subElements;
-    QString attributes; // records in ascending order of names: see attributerecords_p.h
+    QList<std::pair<QString, QString>> attributes; // in ascending order of names
 };
 
 #endif

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 the VySmil authors
 // SPDX-License-Identifier: MIT
 
-#include <VySmil/model/attributerecords_p.h>
 #include <VySmil/model/vocabulary_p.h>
 #include <VySmil/model/vysmilelembase.h>
 #include <VySmil/model/xmltext_p.h>
@@ -24,10 +23,8 @@ int VySmilElemBase::toString(QString &out, bool strict, VySmil::STATUS_CODE *sta
 
     const VySmilElemBase *elem = this;
     QString type = getElemType();
-    const bool isOfClient = !VySmilPrivate::isMadeByFactory(*this, type);
     for (;;) {
-        const bool mayKeepNames = isOfClient && elem == this;
-        const int result = elem->writeStartTag(type, mayKeepNames, out, strict, status, version);
+        const int result = elem->writeStartTag(type, out, strict, status, version);
         if (result != VySmil::RESULT_OK)
             return result;
         path.push_back({elem, type, 0});
@@ -55,28 +52,24 @@ int VySmilElemBase::toString(QString &out, bool strict, VySmil::STATUS_CODE *sta
     }
 }
 
-// Our own classes look at a name and forget it, so that they need no copy of it.
-int VySmilElemBase::writeStartTag(const QString &type, bool mayKeepNames, QString &out, bool strict,
-                                  VySmil::STATUS_CODE *status, VySmil::SMIL_VERSION version) const
+int VySmilElemBase::writeStartTag(const QString &type, QString &out, bool strict, VySmil::STATUS_CODE *status,
+                                  VySmil::SMIL_VERSION version) const
 {
     if (const int result = VySmilPrivate::checkElement(*this, type, strict, status, version))
         return result;
     out += u'<' + type;
-    const VySmilPrivate::AttributeRecords records(attributes);
     QSet<QString> writtenUntrimmed;
-    for (const auto [storedName, storedValue] : records) {
-        const QStringView trimmedName = storedName.trimmed();
-        const QString name = mayKeepNames ? trimmedName.toString()
-                                          : QString::fromRawData(trimmedName.data(), trimmedName.size());
+    for (const auto &[storedName, storedValue] : attributes) {
+        const QString name = storedName.trimmed();
         if (const int result = VySmilPrivate::checkAttr(*this, name, strict, status, version))
             return result;
-        const QStringView value = storedValue.trimmed();
+        const QStringView value = QStringView(storedValue).trimmed();
         if (name.isEmpty() || value.isEmpty())
             continue;
         // Of stored names that are the same once trimmed, the one that needs no trimming is written, else the
         // first: XML allows a name once.
         if (name.size() != storedName.size()) {
-            if (!records.find(name).trimmed().isEmpty() || writtenUntrimmed.contains(name))
+            if (!getAttribute(name).trimmed().isEmpty() || writtenUntrimmed.contains(name))
                 continue;
             writtenUntrimmed.insert(name);
         }
@@ -84,7 +77,7 @@ int VySmilElemBase::writeStartTag(const QString &type, bool mayKeepNames, QStrin
             out += u' ' + name;
             continue;
         }
-        out += u' ' + trimmedName + QStringView(u"=\"");
+        out += u' ' + name + QStringView(u"=\"");
         VySmilPrivate::appendAttributeValue(out, value);
         out += u'"';
     }

@@ -3,10 +3,6 @@
 
 #include <VySmil/model/vysmilelembody.h>
 
-VySmilElemBody::VySmilElemBody() : commonAttrsProxy(this) {}
-
-VySmilElemBody::~VySmilElemBody() = default;
-
 QString VySmilElemBody::getElemType() const
 {
     return QStringLiteral("body");

@@ -13,9 +13,6 @@
 class VYSMIL_EXPORT VySmilElemBody : public VySmilElemBase
 {
 public:
-    VySmilElemBody();
-    ~VySmilElemBody() override;
-
     QString getElemType() const override;
     bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
 
@@ -25,7 +22,7 @@ public:
     const VySmilAttrCommon *getCommonAttrsProxy() const { return &commonAttrsProxy; }
 
 private:
-    VySmilAttrCommon commonAttrsProxy;
+    VySmilAttrCommon commonAttrsProxy{this};
 };
 
 #endif

@@ -3,10 +3,6 @@
 
 #include <VySmil/model/vysmilelemhead.h>
 
-VySmilElemHead::VySmilElemHead() : commonAttrsProxy(this) {}
-
-VySmilElemHead::~VySmilElemHead() = default;
-
 QString VySmilElemHead::getElemType() const
 {
     return QStringLiteral("head");

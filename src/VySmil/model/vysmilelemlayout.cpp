@@ -3,18 +3,12 @@
 
 #include <VySmil/model/vysmilelemlayout.h>
 
-VySmilElemLayout::VySmilElemLayout() = default;
-
-VySmilElemLayout::~VySmilElemLayout() = default;
-
 QString VySmilElemLayout::getElemType() const
 {
     return QStringLiteral("layout");
 }
 
-bool VySmilElemLayout::isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const
+bool VySmilElemLayout::isValidAttr(const QString &, VySmil::SMIL_VERSION) const
 {
-    Q_UNUSED(name)
-    Q_UNUSED(version)
     return false;
 }

@@ -9,10 +9,6 @@
 #include <VySmil/model/vysmilelemmediaobjtext.h>
 #include <VySmil/model/vysmilelemmediaobjvideo.h>
 
-VySmilElemMediaObj::VySmilElemMediaObj() : timingAttrsProxy(this), mediaAttrsProxy(this) {}
-
-VySmilElemMediaObj::~VySmilElemMediaObj() = default;
-
 bool VySmilElemMediaObj::isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const
 {
     return VySmilPrivate::isKnownAttr(name, version, {u"src", u"begin", u"end", u"dur", u"alt", u"region"});
@@ -23,40 +19,25 @@ bool VySmilElemMediaObjAudio::isValidAttr(const QString &name, VySmil::SMIL_VERS
     return VySmilPrivate::isKnownAttr(name, version, {u"src", u"begin", u"end", u"dur", u"alt"});
 }
 
-VySmilElemMediaObjImg::VySmilElemMediaObjImg() = default;
-VySmilElemMediaObjImg::~VySmilElemMediaObjImg() = default;
-
 QString VySmilElemMediaObjImg::getElemType() const
 {
     return QStringLiteral("img");
 }
-
-VySmilElemMediaObjText::VySmilElemMediaObjText() = default;
-VySmilElemMediaObjText::~VySmilElemMediaObjText() = default;
 
 QString VySmilElemMediaObjText::getElemType() const
 {
     return QStringLiteral("text");
 }
 
-VySmilElemMediaObjAudio::VySmilElemMediaObjAudio() = default;
-VySmilElemMediaObjAudio::~VySmilElemMediaObjAudio() = default;
-
 QString VySmilElemMediaObjAudio::getElemType() const
 {
     return QStringLiteral("audio");
 }
 
-VySmilElemMediaObjVideo::VySmilElemMediaObjVideo() = default;
-VySmilElemMediaObjVideo::~VySmilElemMediaObjVideo() = default;
-
 QString VySmilElemMediaObjVideo::getElemType() const
 {
     return QStringLiteral("video");
 }
-
-VySmilElemMediaObjRef::VySmilElemMediaObjRef() = default;
-VySmilElemMediaObjRef::~VySmilElemMediaObjRef() = default;
 
 QString VySmilElemMediaObjRef::getElemType() const
 {

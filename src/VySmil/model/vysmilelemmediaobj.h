@@ -14,9 +14,6 @@
 class VYSMIL_EXPORT VySmilElemMediaObj : public VySmilElemBase
 {
 public:
-    VySmilElemMediaObj();
-    ~VySmilElemMediaObj() override;
-
     bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
 
     /// The group with begin, end and duration; owned by the element.
@@ -39,8 +36,8 @@ public:
     void setAlt(const QString &alt);
 
 private:
-    VySmilAttrTiming timingAttrsProxy;
-    VySmilAttrMedia mediaAttrsProxy;
+    VySmilAttrTiming timingAttrsProxy{this};
+    VySmilAttrMedia mediaAttrsProxy{this};
 };
 
 #endif

@@ -10,9 +10,6 @@
 class VYSMIL_EXPORT VySmilElemMediaObjAudio : public VySmilElemMediaObj
 {
 public:
-    VySmilElemMediaObjAudio();
-    ~VySmilElemMediaObjAudio() override;
-
     QString getElemType() const override;
     bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
 };

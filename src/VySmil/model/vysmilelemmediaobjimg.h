@@ -10,9 +10,6 @@
 class VYSMIL_EXPORT VySmilElemMediaObjImg : public VySmilElemMediaObj
 {
 public:
-    VySmilElemMediaObjImg();
-    ~VySmilElemMediaObjImg() override;
-
     QString getElemType() const override;
 };
 

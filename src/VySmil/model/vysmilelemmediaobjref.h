@@ -10,9 +10,6 @@
 class VYSMIL_EXPORT VySmilElemMediaObjRef : public VySmilElemMediaObj
 {
 public:
-    VySmilElemMediaObjRef();
-    ~VySmilElemMediaObjRef() override;
-
     QString getElemType() const override;
 };
 

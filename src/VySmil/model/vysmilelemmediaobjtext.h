@@ -10,9 +10,6 @@
 class VYSMIL_EXPORT VySmilElemMediaObjText : public VySmilElemMediaObj
 {
 public:
-    VySmilElemMediaObjText();
-    ~VySmilElemMediaObjText() override;
-
     QString getElemType() const override;
 };
 

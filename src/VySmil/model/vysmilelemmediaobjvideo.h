@@ -10,9 +10,6 @@
 class VYSMIL_EXPORT VySmilElemMediaObjVideo : public VySmilElemMediaObj
 {
 public:
-    VySmilElemMediaObjVideo();
-    ~VySmilElemMediaObjVideo() override;
-
     QString getElemType() const override;
 };
 

@@ -4,10 +4,6 @@
 #include <VySmil/model/vocabulary_p.h>
 #include <VySmil/model/vysmilelemmeta.h>
 
-VySmilElemMeta::VySmilElemMeta() = default;
-
-VySmilElemMeta::~VySmilElemMeta() = default;
-
 QString VySmilElemMeta::getElemType() const
 {
     return QStringLiteral("meta");

@@ -12,9 +12,6 @@
 class VYSMIL_EXPORT VySmilElemMeta : public VySmilElemBase
 {
 public:
-    VySmilElemMeta();
-    ~VySmilElemMeta() override;
-
     QString getElemType() const override;
     bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
 

@@ -4,10 +4,6 @@
 #include <VySmil/model/vocabulary_p.h>
 #include <VySmil/model/vysmilelempar.h>
 
-VySmilElemPar::VySmilElemPar() : timingAttrsProxy(this) {}
-
-VySmilElemPar::~VySmilElemPar() = default;
-
 QString VySmilElemPar::getElemType() const
 {
     return QStringLiteral("par");

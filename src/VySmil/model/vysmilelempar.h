@@ -13,9 +13,6 @@
 class VYSMIL_EXPORT VySmilElemPar : public VySmilElemBase
 {
 public:
-    VySmilElemPar();
-    ~VySmilElemPar() override;
-
     QString getElemType() const override;
     bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
 
@@ -25,7 +22,7 @@ public:
     const VySmilAttrTiming *getTimingAttrsProxy() const { return &timingAttrsProxy; }
 
 private:
-    VySmilAttrTiming timingAttrsProxy;
+    VySmilAttrTiming timingAttrsProxy{this};
 };
 
 #endif

@@ -5,10 +5,6 @@
 #include <VySmil/model/vocabulary_p.h>
 #include <VySmil/model/vysmilelemregion.h>
 
-VySmilElemRegion::VySmilElemRegion() : commonAttrsProxy(this) {}
-
-VySmilElemRegion::~VySmilElemRegion() = default;
-
 QString VySmilElemRegion::getElemType() const
 {
     return QStringLiteral("region");

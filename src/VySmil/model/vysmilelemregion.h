@@ -18,9 +18,6 @@
 class VYSMIL_EXPORT VySmilElemRegion : public VySmilElemBase
 {
 public:
-    VySmilElemRegion();
-    ~VySmilElemRegion() override;
-
     QString getElemType() const override;
     bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
 
@@ -51,7 +48,7 @@ public:
     void setFit(const QString &fit);
 
 private:
-    VySmilAttrCommon commonAttrsProxy;
+    VySmilAttrCommon commonAttrsProxy{this};
 };
 
 #endif

@@ -5,10 +5,6 @@
 #include <VySmil/model/vocabulary_p.h>
 #include <VySmil/model/vysmilelemrootlayout.h>
 
-VySmilElemRootLayout::VySmilElemRootLayout() = default;
-
-VySmilElemRootLayout::~VySmilElemRootLayout() = default;
-
 QString VySmilElemRootLayout::getElemType() const
 {
     return QStringLiteral("root-layout");

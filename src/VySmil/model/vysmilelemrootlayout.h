@@ -15,9 +15,6 @@
 class VYSMIL_EXPORT VySmilElemRootLayout : public VySmilElemBase
 {
 public:
-    VySmilElemRootLayout();
-    ~VySmilElemRootLayout() override;
-
     QString getElemType() const override;
     bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
 

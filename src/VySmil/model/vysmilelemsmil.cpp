@@ -3,18 +3,6 @@
 
 #include <VySmil/model/vysmilelemsmil.h>
 
-VySmilElemSmil::VySmilElemSmil()
-{
-    init();
-}
-
-VySmilElemSmil::VySmilElemSmil(const VySmilElemSmil &other) : VySmilElemBase(other)
-{
-    init();
-}
-
-VySmilElemSmil::~VySmilElemSmil() = default;
-
 void VySmilElemSmil::init() {}
 
 VySmilElemBase *VySmilElemSmil::getHead() const
@@ -32,9 +20,7 @@ QString VySmilElemSmil::getElemType() const
     return QStringLiteral("smil");
 }
 
-bool VySmilElemSmil::isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const
+bool VySmilElemSmil::isValidAttr(const QString &, VySmil::SMIL_VERSION) const
 {
-    Q_UNUSED(name)
-    Q_UNUSED(version)
     return false;
 }

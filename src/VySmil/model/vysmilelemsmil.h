@@ -11,11 +11,10 @@ class VYSMIL_EXPORT VySmilElemSmil : public VySmilElemBase
 {
 public:
     /// A root without children.
-    VySmilElemSmil();
+    VySmilElemSmil() { init(); }
     /// A copy of the whole tree.
-    VySmilElemSmil(const VySmilElemSmil &other);
+    VySmilElemSmil(const VySmilElemSmil &other) : VySmilElemBase(other) { init(); }
     VySmilElemSmil &operator=(const VySmilElemSmil &) = delete;
-    ~VySmilElemSmil() override;
 
     /// Called at the end of both constructors; does nothing.
     void init();

@@ -3,21 +3,12 @@
 
 #include <VySmil/model/vysmilelemunknown.h>
 
-VySmilElemUnknown::VySmilElemUnknown()
-{
-    elemType = QStringLiteral("");
-}
-
-VySmilElemUnknown::~VySmilElemUnknown() = default;
-
 QString VySmilElemUnknown::getElemType() const
 {
     return elemType;
 }
 
-bool VySmilElemUnknown::isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const
+bool VySmilElemUnknown::isValidAttr(const QString &, VySmil::SMIL_VERSION) const
 {
-    Q_UNUSED(name)
-    Q_UNUSED(version)
     return true;
 }

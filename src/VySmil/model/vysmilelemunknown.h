@@ -11,8 +11,7 @@ class VYSMIL_EXPORT VySmilElemUnknown : public VySmilElemBase
 {
 public:
     /// An element with an empty name.
-    VySmilElemUnknown();
-    ~VySmilElemUnknown() override;
+    VySmilElemUnknown() { elemType = QStringLiteral(""); }
 
     QString getElemType() const override;
     /// Stores \a name unchanged. It is written as it stands, so it should be an XML name.

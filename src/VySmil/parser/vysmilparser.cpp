@@ -1,10 +1,38 @@
 // SPDX-FileCopyrightText: 2026 the VySmil authors
 // SPDX-License-Identifier: MIT
 
-#include <VySmil/parser/documentbounds_p.h>
+#include <VySmil/model/vocabulary_p.h>
+#include <VySmil/parser/plainreader_p.h>
 #include <VySmil/parser/vysmilparser.h>
 
-#include <QDomDocument>
+#include <QXmlStreamReader>
+
+namespace {
+
+// Feeds what Qt's stream reader finds, set up as QDomDocument::setContent() does it. False if the text is not
+// well-formed; the builder is of no more use then.
+bool readByQt(QStringView text, VySmilPrivate::TreeBuilder &builder)
+{
+    QXmlStreamReader reader(text.toString());
+    reader.setNamespaceProcessing(false);
+    std::vector<VySmilPrivate::Attribute> attributes;
+    while (!reader.atEnd()) {
+        const QXmlStreamReader::TokenType token = reader.readNext();
+        if (token == QXmlStreamReader::StartElement) {
+            attributes.clear();
+            for (const QXmlStreamAttribute &attribute : reader.attributes())
+                attributes.push_back(
+                    {VySmilPrivate::attributeName(attribute.qualifiedName()), attribute.value().toString()});
+            VySmilPrivate::sortByName(attributes);
+            builder.startElement(reader.qualifiedName(), attributes);
+        } else if (token == QXmlStreamReader::EndElement) {
+            builder.endElement();
+        }
+    }
+    return !reader.hasError();
+}
+
+} // namespace
 
 int VySmilParser::parse(const QString &text, VySmilElemSmil *root, bool strict, VySmil::STATUS_CODE *status,
                         VySmil::SMIL_VERSION version)
@@ -17,15 +45,20 @@ int VySmilParser::parse(const QString &text, VySmilElemSmil *root, bool strict, 
     if (const qsizetype start = document.indexOf(QLatin1String("<smil")); start > 0)
         document = document.sliced(start);
 
-    QDomDocument dom;
-    bool isWellFormed = false;
-    // The copy for the DOM is gone before the tree is built.
-    if (const auto bounded = VySmilPrivate::boundedDocument(document, MAX_DEPTH, MAX_ATTRIBUTES))
-        isWellFormed = dom.setContent(*bounded);
     root->clearSubElements();
-    if (!isWellFormed)
+    {
+        VySmilPrivate::TreeBuilder builder(*root, strict, version);
+        VySmilPrivate::PlainReader reader(document, builder);
+        const auto outcome = reader.read();
+        if (outcome == VySmilPrivate::PlainReader::Outcome::Complete)
+            return builder.handOver(*root, status);
+        if (outcome == VySmilPrivate::PlainReader::Outcome::Refused)
+            return VySmil::RESULT_MALFORMED;
+    }
+    VySmilPrivate::TreeBuilder builder(*root, strict, version);
+    if (!readByQt(document, builder))
         return VySmil::RESULT_MALFORMED;
-    return root->fromDomElem(dom.documentElement(), strict, status, version);
+    return builder.handOver(*root, status);
 }
 
 int VySmilParser::assemble(const VySmilElemSmil *root, QString &out, bool strict, VySmil::STATUS_CODE *status,

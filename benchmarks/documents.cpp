@@ -148,7 +148,7 @@ void benchHostile(benchmark::State &state, const QString &text, double bound)
         bound, scale);
 }
 
-// How much dearer a character gets from 1 KB to 5 MB, against the same figure of the DOM.
+// How much dearer a character gets from 1 KB to 5 MB, against the same figure of QDomDocument.
 void benchGrowth(benchmark::State &state)
 {
     struct Times

@@ -228,6 +228,13 @@ private Q_SLOTS:
         body.setSubElements(*par->getSubElements());
         QCOMPARE(destroyed, 3);
         QCOMPARE(body.getSubElements()->at(0), img);
+        // So may the last child alone.
+        VySmilElemBase *last = addChild(body, "ref");
+        VySmilElemList lastAlone;
+        lastAlone.append(last);
+        body.setSubElements(lastAlone);
+        QCOMPARE(treeText(body), QString("body(ref)"));
+        QCOMPARE(body.getSubElement(0, "ref"), last);
     }
 
     void copiesAreDeepAndAppended()
@@ -258,6 +265,46 @@ private Q_SLOTS:
         // A child may take a copy of its own ancestor; it has the new attributes before the copy is made.
         foo->copyFrom(source);
         QCOMPARE(treeText(*foo), QString("?[a=1](img body(?[a=1](img)))"));
+    }
+
+    // A class of the client's is copied as the factory's of its name, whether it keeps that in its field or
+    // not.
+    void copiesKeepTheirNames()
+    {
+        struct Own : VySmilElemPar
+        {
+            QString getElemType() const override { return "own"; }
+        };
+        struct Named : Own
+        {
+            Named() { elemType = "named"; }
+        };
+        VySmilElemSmil source;
+        source.getSubElements()->append(new Own);
+        source.getSubElements()->append(new Named);
+        auto *capital = new VySmilElemUnknown;
+        QVERIFY(!capital->getElemType().isNull());
+        capital->setElemType("PAR");
+        source.getSubElements()->append(capital);
+        const VySmilElemSmil copy(source);
+        QCOMPARE(treeText(copy), QString("smil(?own ?named par)"));
+    }
+
+    // As limits.md says of classes of the client's, whose own toString() must be called.
+    void depthOfClientClassesCostsStack()
+    {
+        struct Own : VySmilElemPar
+        {
+        };
+        VySmilElemSmil root;
+        VySmilElemBase *deepest = &root;
+        for (int i = 0; i < 10'000; ++i) {
+            deepest->getSubElements()->append(new Own);
+            deepest = deepest->getSubElements()->at(0);
+        }
+        QString text;
+        QCOMPARE(root.toString(text, true, nullptr, VySmil::SMIL_VER_DEFAULT), 0);
+        QCOMPARE(text.count("</par>"), qsizetype(10'000));
     }
 
     void depthCostsNoStack()
@@ -298,6 +345,45 @@ private Q_SLOTS:
         VySmilElemMediaObjImg img;
         QCOMPARE(img.fromDomElem(elem, false, nullptr, VySmil::SMIL_VER_DEFAULT), 3);
         QCOMPARE(treeText(img), QString("img"));
+    }
+
+    // Names may be the same once they are trimmed, or under two namespaces: one is stored, the last in order.
+    void readsNamesOnce_data()
+    {
+        QTest::addColumn<QStringList>("names");
+        QTest::addColumn<QString>("written");
+        QTest::newRow("trimmed") << QStringList{" z", "a", "  a "} << " a=\"4\" z=\"0\"";
+        QTest::newRow("other order") << QStringList{"  c", " b"} << " a=\"4\" b=\"1\" c=\"0\"";
+        QTest::newRow("after an earlier one") << QStringList{" a", "b"} << " a=\"4\" b=\"1\"";
+    }
+    void readsNamesOnce()
+    {
+        QFETCH(QStringList, names);
+        QFETCH(QString, written);
+        QDomDocument dom;
+        QDomElement elem = dom.createElement("par");
+        for (int i = 0; i < names.size(); ++i)
+            elem.setAttribute(names[i], QString::number(i));
+        VySmilElemPar par;
+        par.setAttribute("a", "old");
+        QCOMPARE(par.fromDomElem(elem, false, nullptr, VySmil::SMIL_VER_DEFAULT), 0);
+        par.setAttribute("a", "4");
+        QString text;
+        QCOMPARE(par.toString(text, false, nullptr, VySmil::SMIL_VER_DEFAULT), 0);
+        QCOMPARE(text, "<par" + written + ">\n</par>\n");
+    }
+
+    void readsANameOfTwoNamespacesOnce()
+    {
+        QDomDocument dom;
+        QDomElement elem = dom.createElement("par");
+        elem.setAttributeNS("u1", "dur", "1s");
+        elem.setAttributeNS("u2", "dur", "2s");
+        VySmilElemPar par;
+        QCOMPARE(par.fromDomElem(elem, true, nullptr, VySmil::SMIL_VER_DEFAULT), 0);
+        QString text;
+        QCOMPARE(par.toString(text, true, nullptr, VySmil::SMIL_VER_DEFAULT), 0);
+        QCOMPARE(text, "<par dur=\"" + elem.attributes().item(1).nodeValue() + "\">\n</par>\n");
     }
 };
 

@@ -43,17 +43,20 @@ private Q_SLOTS:
     {
         QFETCH(int, allocations);
         QFETCH(QString, tree);
-        for (const bool strict : {false, true}) {
-            VySmilElemSmil root;
-            root.setAttribute("old", "1");
-            VySmil::STATUS_CODE status = VySmil::STATUS_INVALID_ATTR;
-            allocationsLeft = allocations;
-            const int result = VySmilParser::parse("<smil><head><layout/></head><body><foo/></body></smil>",
-                                                   &root, strict, &status, VySmil::SMIL_VER_DEFAULT);
-            allocationsLeft = -1;
-            QCOMPARE(result, int(VySmil::RESULT_NO_OBJECT));
-            QCOMPARE(status, VySmil::STATUS_OK);
-            QCOMPARE(treeText(root), tree);
+        for (const QString start : {"<smil>", "<smil><?x?>"}) {
+            for (const bool strict : {false, true}) {
+                VySmilElemSmil root;
+                root.setAttribute("old", "1");
+                VySmil::STATUS_CODE status = VySmil::STATUS_INVALID_ATTR;
+                allocationsLeft = allocations;
+                const int result =
+                    VySmilParser::parse(start + "<head><layout/></head><body><foo/></body></smil>", &root,
+                                        strict, &status, VySmil::SMIL_VER_DEFAULT);
+                allocationsLeft = -1;
+                QCOMPARE(result, int(VySmil::RESULT_NO_OBJECT));
+                QCOMPARE(status, VySmil::STATUS_OK);
+                QCOMPARE(treeText(root), tree);
+            }
         }
     }
 
@@ -67,6 +70,10 @@ private Q_SLOTS:
         const VySmilElemSmil copy(root);
         allocationsLeft = -1;
         QCOMPARE(treeText(copy), QString("smil(head(layout))"));
+        allocationsLeft = 0;
+        const VySmilElemSmil withoutHead(root);
+        allocationsLeft = -1;
+        QCOMPARE(treeText(withoutHead), QString("smil(body(par))"));
     }
 };
 

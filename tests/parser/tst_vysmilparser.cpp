@@ -40,16 +40,22 @@ QString around(const QString &content)
     return "<smil>" + content + "</smil>";
 }
 
+// A processing instruction is no plain text.
+QString leftToQt(QString text)
+{
+    return text.replace("<smil>", "<smil><?x?>");
+}
+
 QString nested(int depth)
 {
     return QString("<par>").repeated(depth) + QString("</par>").repeated(depth);
 }
 
-QString attributes(int count)
+QString attributes(int count, const char *value = "'>'")
 {
     QString text;
     for (int i = 0; i < count; ++i)
-        text += QString(" a%1='>'").arg(i);
+        text += QString(" a%1=%2").arg(i).arg(value);
     return text;
 }
 
@@ -142,6 +148,15 @@ private Q_SLOTS:
         row("no-break space behind the root", QString("<smil/>") + QChar(0xa0) + "<!-- -->", refused,
             refused);
         row("text behind the root", "<smil/> x <!-- -->", refused, refused);
+        row("a character behind the root", "<smil/>!<!-- -->", refused, refused);
+        row("controls", around("\x0e<body/>"), refused, refused);
+        row("vertical tab", around("\x0b<body/>"), refused, refused);
+        row("a tag that begins like the root", "<smi/><smil/>", "0 0 smil[old=1]", "0 0 smil[old=1]");
+        row("malformed behind a finding", "<smil a='1'><foo/></par></smil>", refused, refused);
+        row("open behind a finding", "<smil a='1'><PAR/><body>", refused, refused);
+        row("elements under one that does not fit", around("<body/><PAR><a><b/></a></PAR><head/>"),
+            "3 0 smil[old=1](body)", "0 0 smil[old=1](body par head)");
+        row("a character before the root", "x<smil/>", "0 0 smil[old=1]", "0 0 smil[old=1]");
         row("root in a comment", "<!-- <smil --><smil/>", refused, refused);
         row("capital root", "<SMIL><body/></SMIL>", "3 0 smil[old=1]", "3 0 smil[old=1]");
         row("other root", "<?xml version='1.0'?><html/>", "3 0 smil[old=1]", "3 0 smil[old=1]");
@@ -175,9 +190,10 @@ private Q_SLOTS:
             root.setAttribute("old", "1");
             root.getSubElements()->append(VySmilElemBase::newElem("meta"));
             QCOMPARE(readText(text, root, isStrict), isStrict ? strict : loose);
-            // Reading again replaces what the first reading left, but for the attributes.
+            // Reading again replaces what the first reading left, but for the attributes; behind a processing
+            // instruction Qt reads, to the same effect.
             readText(text, root, isStrict);
-            QCOMPARE(readText(text, root, isStrict), isStrict ? strict : loose);
+            QCOMPARE(readText(leftToQt(text), root, isStrict), isStrict ? strict : loose);
         }
         QCOMPARE(VySmilParser::parse(text, nullptr, true, nullptr, VySmil::SMIL_VER_DEFAULT), 3);
     }
@@ -231,6 +247,16 @@ private Q_SLOTS:
         QTest::newRow("many children") << around(QString("<par/>").repeated(1000)) << true;
         QTest::newRow("256 attributes") << around("<par" + attributes(most) + "/>") << true;
         QTest::newRow("257 attributes") << around("<par" + attributes(most + 1) + "/>") << false;
+        QTest::newRow("257 in double quotes")
+            << around("<par" + attributes(most + 1, "\"'\"") + "/>") << false;
+        QTest::newRow("257 without a value") << around("<par" + attributes(most + 1, "''") + "/>") << false;
+        QTest::newRow("bracket in double quotes") << around("<img alt=\"[\"/>") << true;
+        QTest::newRow("end tag before the depth") << around("<par></par>" + nested(300)) << false;
+        QTest::newRow("empty comment before the depth") << around("<!---->" + nested(300)) << false;
+        QTest::newRow("comment that ends late")
+            << around("<!--->" + QString("<par>").repeated(300) + "-->") << true;
+        QTest::newRow("CDATA that ends late") << around("<![CDATA[]]<x []]>") << true;
+        QTest::newRow("depth behind a doctype") << "<!DOCTYPE x><x>" + nested(depth - 1) + "</x>" << true;
         QTest::newRow("256 twice") << around(("<par" + attributes(most) + "></par>").repeated(2)) << true;
         QTest::newRow("markup in a comment") << around("<!--" + deep + "\"'-->") << true;
         QTest::newRow("comment opened in a comment")
@@ -252,9 +278,152 @@ private Q_SLOTS:
         QFETCH(QString, text);
         QFETCH(bool, isRead);
         VySmilElemSmil root;
-        const int result = VySmilParser::parse(text, &root, false, nullptr, VySmil::SMIL_VER_DEFAULT);
-        // A root other than "smil" is refused after the DOM was built.
-        QCOMPARE(result, !isRead ? -1 : text.startsWith("<smil") ? 0 : 3);
+        for (const QString &variant : {text, leftToQt(text)}) {
+            const int result = VySmilParser::parse(variant, &root, false, nullptr, VySmil::SMIL_VER_DEFAULT);
+            // A root other than "smil" is refused after all was read.
+            QCOMPARE(result, !isRead ? -1 : text.startsWith("<smil") ? 0 : 3);
+        }
+    }
+
+    // What looks plain is read like a DOM of the text, or refused with it.
+    void readsAsADomDoes_data()
+    {
+        QTest::addColumn<QString>("text");
+        const QStringList tags{
+            "<a b='1'c='2'/>",
+            "<a b=\"1\" c='2' />",
+            "<a b = '1'\n\tc\r='2'\n>",
+            "<a / >",
+            "< a/>",
+            "<a></ a>",
+            "<a></a >",
+            "<a></b>",
+            "<a",
+            "<a b",
+            "<a b=",
+            "<a b='",
+            "<a b='1",
+            "<a b=1/>",
+            "<a b/>",
+            "<a 'b'/>",
+            "<a b='1' b='2'/>",
+            "<a B='1' b='2'/>",
+            "<1/>",
+            "<-a/>",
+            "<a.-_9/>",
+            "<:a/>",
+            "<a:b c:d='1'/>",
+            "<a xmlns='u' xml:lang='en'/>",
+            "<a b='<'/>",
+            "<a b='>'/>",
+            "<a b='\"'/>",
+            "<a b=\"'\"/>",
+            "<a b='x\ty\nz'/>",
+            "<a b='\x01'/>",
+            "<>",
+            "</>",
+            "<a b='1'/",
+            "<a/><!",
+            "<!x>",
+            "<!->",
+            "<!-- -- -->",
+            "<!-- --->",
+            "<!-->",
+            "<!--",
+            "<!-- \x01 -->",
+            "<!-- <a>&b; ]]> -->",
+            "]]>",
+            "]]",
+            "a > b",
+            "a & b",
+            "&amp;",
+            "&",
+            "\x7f",
+            "\r\n",
+            "<?x?>",
+            "<?xml version='1.0'?>",
+        };
+        const QStringList values{
+            "&amp;&lt;&gt;&quot;&apos;",
+            "&#65;&#x41;&#x4a;&#x4A;",
+            "&#X41;",
+            "&#;",
+            "&#x;",
+            "&#+65;",
+            "&# 65;",
+            "&#6 5;",
+            "&#0;",
+            "&#x1;",
+            "&#9;x&#10;x&#13;",
+            "&#xD7FF;",
+            "&#xD800;",
+            "&#xFFFD;",
+            "&#xFFFE;",
+            "&#x1F600;",
+            "&#x110000;",
+            "&#99999999999;",
+            "&#00000065;",
+            "&amp",
+            "&AMP;",
+            "&foo;",
+            "&;",
+            "&&;",
+            "&#65",
+            "&#32;x&#32;",
+            " \u00a0x\u2003",
+            QString("\U0001F600"),
+            QString(QChar(0xd83d)),
+            QString(QChar(0xfffe)),
+            QString(QChar(0xfeff)),
+            "\u0085",
+        };
+        for (const QString &tag : tags)
+            QTest::newRow(tag.toUtf8().toPercentEncoding(" <>='\"/").constData())
+                << around("<head/>" + tag + "<body/>");
+        for (const QString &value : values)
+            QTest::newRow(value.toUtf8().toPercentEncoding("&#;").constData())
+                << around("<a b='" + value + "'/>");
+        QTest::newRow("long names") << around(QString("<%1 %1='1'/>").arg(QString(5000, u'n')));
+        QTest::newRow("names of good length") << around(QString("<%1 %1='1'/>").arg(QString(300, u'n')));
+        QTest::newRow("behind the root") << around("") + "<!-- x --> \n<!-- y -->";
+        QTest::newRow("element behind the root") << around("") + "<a/>";
+        QTest::newRow("end tag behind the root") << around("") + "</smil>";
+        QTest::newRow("byte order mark") << QChar(0xfeff) + around("<a/>");
+    }
+    void readsAsADomDoes()
+    {
+        QFETCH(QString, text);
+        QDomDocument dom;
+        VySmilElemSmil expected;
+        int result = -1;
+        if (dom.setContent(text.mid(text.indexOf("<smil"))))
+            result = expected.fromDomElem(dom.documentElement(), false, nullptr, VySmil::SMIL_VER_DEFAULT);
+        VySmilElemSmil root;
+        QCOMPARE(VySmilParser::parse(text, &root, false, nullptr, VySmil::SMIL_VER_DEFAULT), result);
+        QCOMPARE(treeText(root), treeText(expected));
+    }
+
+    // The root is the client's, and may be of a class of its own.
+    void clientRootsAreAsked()
+    {
+        struct Html : VySmilElemSmil
+        {
+            QString getElemType() const override { return "html"; }
+            bool isValidAttr(const QString &name, VySmil::SMIL_VERSION) const override
+            {
+                asked.append(name);
+                return name != "bad";
+            }
+            mutable QStringList asked;
+        };
+        for (const char *before : {"", "<?x?>"}) {
+            Html root;
+            const QString text = before + QString("<html lang=' en ' dir='' bad='1' z='2'><par/></html>");
+            QCOMPARE(VySmilParser::parse(text, &root, true, nullptr, VySmil::SMIL_VER_DEFAULT), 1);
+            QCOMPARE(VySmilParser::parse(text, &root, false, nullptr, VySmil::SMIL_VER_DEFAULT), 0);
+            QCOMPARE(root.asked, QStringList({"bad", "dir", "lang", "z"}));
+            QCOMPARE(treeText(root), QString("html[bad=1 lang=en z=2](par)"));
+        }
     }
 
     // Text that a quadratic reader would chew on for minutes.
@@ -349,7 +518,7 @@ private Q_SLOTS:
             }
             int result;
         };
-        for (const int result : {-7, 0, 7}) {
+        for (const int result : {-7, 0, 1, 7}) {
             VySmilElemSmil root;
             root.getSubElements()->append(new Failing(result));
             const QString stopped = QString("%1 0 ^<smil>~!").arg(result);

@@ -74,11 +74,17 @@ private Q_SLOTS:
         smpte("smpte-501:2:3:4|smpte-25=10:20:30", 3, "0 2 3 4 smpte-25", "smpte-2500:02:03:04");
         smpte("smpte-501:2:3:4|smpte-257:8:x", 3, "7 8 0 4 smpte-25", "smpte-2507:08:00:04");
         smpte("smpte-501:2:3:4|smpte-257:8:9:4.5", 3, "7 8 9 0 smpte-25", "smpte-2507:08:09");
+        smpte("smpte-60-drop1:2:3", 0, "1 2 3 0 smpte-60-drop", "smpte-60-drop01:02:03");
+        smpte("smpte-3001:02:03", 0, "1 2 3 0 smpte-30", "smpte-3001:02:03");
+        smpte("smpte-251:2:3:4|smpte-251:2:3", 0, "1 2 3 0 smpte-25", "smpte-2501:02:03");
         smpte("smpte-2510:61:75:99", 0, "10 61 75 99 smpte-25", "smpte-2510:61:75:99");
 
         const ValueRows<VySmil::VyTimeSycBase> sync{"sync-base"};
         sync("intro.end+2s", 0, "intro end +2 2", "intro.end+2s");
         sync(" intro.BEGIN - 1.5s", 0, "intro begin -1.5 2", "intro.begin-1.5s");
+        sync("begin+1s", 3, " begin +0 2", ".begin+0s");
+        sync("a.begix+1s", 3, "a begin +0 2", "a.begin+0s");
+        sync("a.enx+1s", 3, "a begin +0 2", "a.begin+0s");
         sync("a.end-1s|nothing", 3, "a end -1 2", "a.end-1s");
         sync("a.end-1s|b.c.begin+1s", 3, "b end -1 2", "b.end-1s");
         sync("a.end-1s|b.begin", 3, "b begin -1 2", "b.begin-1s");
@@ -88,6 +94,8 @@ private Q_SLOTS:
         event("button.activateEvent + 0.5s", 0, "button activateEvent +0.5 2", "button.activateEvent+0.5s");
         event("a.b.c-1:00", 0, "a b.c -1 0", "a.b.c-01:00.000000");
         event("a.x-y+5s", 0, "a x-y +5 2", "a.x-y+5s");
+        event("click+1s", 3, "  +0 2", ".+0s");
+        event("a.+5s", 0, "a  +5 2", "a.+5s");
         event("a.b+1s|c", 3, "a b +1 2", "a.b+1s");
         event("a.b+1s|c.click", 3, "c b +1 2", "c.b+1s");
         event("a.b+1s|c.my-event-5s", 3, "c my -0 2", "c.my-0s");
@@ -144,6 +152,13 @@ private Q_SLOTS:
              "wallclock(2004-05-06)");
         wall("wallclock(2004-05-06)|wallclock(x-y-z)", 3, "2004-05-06 0 0 0 local +0 0",
              "wallclock(2004-05-06)");
+        wall("12:00:0.00000015", 0, "none 12 0 1.50000005e-07 local +0 0", "wallclock(12:00:00)", false);
+        wall("12:00:0.00000007", 0, "none 12 0 6.99999987e-08 local +0 0", "wallclock(12:00)");
+        wall("wallclock(-05:00)", 0, "none 0 0 0 local -0 0", "wallclock()");
+        wall("wallclock(2004-05-06T-05:00)", 0, "2004-05-06 0 0 0 local -0 0", "wallclock(2004-05-06)");
+        wall("wallclock( 12:30)", 0, "none 12 30 0 local +0 0", "wallclock(12:30)");
+        wall("wallclock(12:30:05 +01:00)", 0, "none 12 30 5 local +1 0", "wallclock(12:30:05.000000+ 1: 0)");
+        wall("wallclock(12:30:05.5)", 0, "none 12 30 5.5 local +0 0", "wallclock(12:30:05.5)");
         wall("wallclock(--)", 3, "none 0 0 0 local +0 0", "wallclock()");
         wall("wallclock(00:00+01:30)", 0, "none 0 0 0 local +1 30", "wallclock(00:00+ 1:30)");
         wall("12:00:1.5e3", 0, "none 12 0 1500 local +0 0", "wallclock(12:00:1500)");
@@ -161,18 +176,30 @@ private Q_SLOTS:
         row(Kind::TIME_CLOCK, "1.5Min", 0, "1.5min");
         row(Kind::TIME_CLOCK, "1:02:03.5", 0, "01:02:03.500000");
         row(Kind::TIME_CLOCK, "npt=10", 0, "10s");
+        row(Kind::TIME_CLOCK, "2h", 0, "2h");
         row(Kind::TIME_CLOCK, "2.5", 0, "2.5s");
         row(Kind::TIME_CLOCK, "1.e+5", 0, "100000s");
+        row(Kind::TIME_CLOCK, "npt10:00", 3, "00:00.000000");
+        row(Kind::TIME_CLOCK, "click+2s", 3, "0s");
         row(Kind::TIME_CLOCK, "clicks", 3, "0s");
         row(Kind::TIME_CLOCK, "smpte=01:02:03", 3, "00:00:00.000000");
         row(Kind::TIME_CLOCK, "x.1+2s", 3, "0s");
         row(Kind::TIME_OFFSET, "-01:00", 0, "-01:00.000000");
         row(Kind::TIME_OFFSET, "-5%", 3, "-5s");
         row(Kind::TIME_OFFSET, "+a.click+2s", 3, "+0s");
+        row(Kind::TIME_SYNCBASE, "intro.begin+1s", 0, "intro.begin+1s");
+        row(Kind::TIME_SYNCBASE, "-a.beginEvent+1s", 3, "-a.begin+0s");
         row(Kind::TIME_SYNCBASE, "intro.end+2s", 0, "intro.end+2s");
         row(Kind::TIME_SYNCBASE, "-a.begin+1s", 0, "-a.begin+1s");
         row(Kind::TIME_SYNCBASE, "a.endEvent", 3, "a.end+0s");
+        row(Kind::TIME_SYNCBASE, "a.begin", 3, "a.begin+0s");
         row(Kind::TIME_SYNCBASE, "a.b.begin+1s", 3, "a.begin+0s");
+        row(Kind::TIME_EVENT, "a.begi+1s", 0, "a.begi+1s");
+        row(Kind::TIME_EVENT, "button.enter+1s", 0, "button.enter+1s");
+        row(Kind::TIME_EVENT, ".click+2s", 0, ".click+2s");
+        row(Kind::TIME_EVENT, "a.x+1s", 0, "a.x+1s");
+        row(Kind::TIME_EVENT, "a.marker (x)+1s", 0, "a.marker (x)+1s");
+        row(Kind::TIME_EVENT, "a.repeat (2)+1s", 0, "a.repeat (2)+1s");
         row(Kind::TIME_EVENT, "a.beginEvent+1s", 0, "a.beginEvent+1s");
         row(Kind::TIME_EVENT, "a.endEvent+2", 0, "a.endEvent+2s");
         row(Kind::TIME_EVENT, "a.Beginnings.end-1s", 0, "a.Beginnings.end-1s");
@@ -181,6 +208,8 @@ private Q_SLOTS:
         row(Kind::TIME_EVENT, "a.click", 3, "a.+0s", false);
         row(Kind::TIME_EVENT, "movie.MARKER(x)", 3, "movie.+0s", false);
         row(Kind::TIME_REPEAT, "clip.begin.repeat(2)+1s", 0, "clip.begin.repeat(2)+1s");
+        row(Kind::TIME_ACCESSKEY, "accesskey(a", 3, "accesskey()+0s", false);
+        row(Kind::TIME_CLOCK, "accesskey (a)+1s", 3, "0s");
         row(Kind::TIME_ACCESSKEY, "accesskey(repeat()+0s", 0, "accesskey(repeat()+0s");
         row(Kind::TIME_MEDIAMARKER, "+m.marker(accesskey(a))", 0, "+m.marker(accesskey(a)");
         row(Kind::TIME_WALLCLOCK, "WALLCLOCK", 3, "wallclock()");
@@ -191,6 +220,8 @@ private Q_SLOTS:
         row(Kind::TIME_PERCENT, "50%", 0, "50%");
         row(Kind::TIME_PERCENT, "x%", 3, "0%");
         row(Kind::TIME_TEXT, " 5 ", 0, "5");
+        row(Kind::TIME_TEXT, "wallcloc", 0, "wallcloc");
+        row(Kind::TIME_TEXT, "npt10", 0, "npt10");
         row(Kind::TIME_TEXT, "media (", 0, "media (");
     }
     void times() { checkValueRow(); }

@@ -17,7 +17,8 @@
 ///
 /// A read changes only the fields that it reaches, and a failed one keeps those before the fault: a time
 /// without seconds or zone keeps those of an earlier read. A date that the calendar does not have is null,
-/// and no failure.
+/// and no failure. A zone without a time of day is dropped but for its sign, and no failure either:
+/// "wallclock(2004-05-06T-05:00)" is the date alone.
 class VYSMIL_EXPORT VySmil::VyWallClockSyncTime
 {
 public:

@@ -12,7 +12,7 @@
 /// (W3C SMIL 2.0, Linking).
 ///
 /// After a failed read "unit" is UNIT_NONE; the numbers before the fault are stored, and in its slot what the
-/// number that failed begins with, or 0.
+/// number that failed begins with, or 0. A percentage without its "%" leaves its slot as it was.
 class VYSMIL_EXPORT VySmil::VyCoords
 {
 public:

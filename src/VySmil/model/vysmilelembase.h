@@ -21,8 +21,8 @@ class QDomElement;
 ///
 /// An element owns its sub-elements (see VySmilElemList). The caller owns the root and whatever newElem()
 /// gave until it stands in an owning list. No operation recurses, so that depth costs no stack, with one
-/// exception: toString() calls the toString() of a class that a client derived, as it may be its own. Such elements
-/// nested in each other take stack for each level; 10,000 levels fit into 8 MB.
+/// exception: toString() calls the toString() of a class that a client derived, as it may be its own. Such
+/// elements nested in each other take stack for each level; 10,000 levels fit into 8 MB.
 class VYSMIL_EXPORT VySmilElemBase : public VySmilBase
 {
 public:
@@ -35,8 +35,8 @@ public:
 
     /// Takes over the attributes, the type name and the auto-deletion switch of \a other, and appends copies
     /// of its sub-elements, all levels of them, to its own, which stay. The copies are made by newElem() and
-    /// own their children: an unknown element that is called "PAR" is copied as a par, and a class of the client's
-    /// as what newElem() makes of its name. Copying an element onto itself changes nothing.
+    /// own their children: an unknown element that is called "PAR" is copied as a par, and a class of the
+    /// client's as what newElem() makes of its name. Copying an element onto itself changes nothing.
     virtual void copyFrom(const VySmilElemBase &other);
 
     /// The element's name: fixed by the class, but for VySmilElemUnknown.

@@ -13,8 +13,8 @@
 /// "-drop" (compare W3C SMIL 2.0, Media Objects: clipBegin).
 ///
 /// No field is checked against a range. A read that finds no kind changes nothing; one that fails behind it
-/// keeps the kind and the fields before the fault, with 0 in the one that is no number. Where a ":" is missing,
-/// the field before it stays as it was.
+/// keeps the kind and the fields before the fault, with 0 in the one that is no number. Where a ":" is
+/// missing, the field before it stays as it was.
 class VYSMIL_EXPORT VySmil::VyTimeSmpte
 {
 public:

@@ -231,6 +231,63 @@ void benchPeak(benchmark::State &state)
     report(state, tree.peak / tree.left, "heap of the tree", 2.0);
 }
 
+// A part for each medium of message().
+QList<VySmilPart> partsOf(int pars)
+{
+    QList<VySmilPart> parts;
+    const auto add = [&parts](const char *name, int number, const char *type) {
+        VySmilPart part;
+        part.name = QString::fromLatin1(name).arg(number);
+        part.contentLocation = part.name;
+        part.contentId = u'<' + part.name + u'>';
+        part.contentType = QString::fromLatin1(type);
+        parts << part;
+    };
+    for (int i = 0; i < pars; ++i) {
+        add("picture%1.jpg", i, "image/jpeg");
+        add("text%1.txt", i, "text/plain");
+        add("sound%1.amr", i, "audio/amr");
+    }
+    return parts;
+}
+
+void showSlides(const VySmilElemSmil &root, const QList<VySmilPart> &parts)
+{
+    VySmilSlideShow show;
+    benchmark::DoNotOptimize(show.fromTree(root, parts));
+}
+
+void check(const VySmilElemSmil &root, const QList<VySmilPart> &parts)
+{
+    benchmark::DoNotOptimize(VySmilConformance::check(root, VySmilConformance::LEVEL_STRICT, parts));
+}
+
+using Looking = void (*)(const VySmilElemSmil &root, const QList<VySmilPart> &parts);
+
+void benchLooking(benchmark::State &state, Looking look, int pars)
+{
+    const QString text = message(pars);
+    const QList<VySmilPart> parts = partsOf(pars);
+    VySmilElemSmil root;
+    parse(text, root);
+    compare(
+        state, [&] { look(root, parts); }, [&] { parseOnce(text); }, "parse and destroy the tree", 1.5);
+}
+
+// The same per slide of a long message as of a short one.
+void benchLookingGrowth(benchmark::State &state, Looking look)
+{
+    VySmilElemSmil shortRoot;
+    VySmilElemSmil longRoot;
+    parse(message(100), shortRoot);
+    parse(message(3'000), longRoot);
+    const QList<VySmilPart> shortParts = partsOf(100);
+    const QList<VySmilPart> longParts = partsOf(3'000);
+    compare(
+        state, [&] { look(longRoot, longParts); }, [&] { look(shortRoot, shortParts); }, "100 pars", 1.5,
+        100.0 / 3'000);
+}
+
 // Registers a benchmark that measures its own time.
 template <typename... Args>
 void add(const std::string &name, Args &&...args)
@@ -245,6 +302,12 @@ const bool registered = [] {
         add("parse and destroy the tree" + label, benchParseAgainstStream, pars);
         add("parse, not plain" + label, benchParseByQt, pars);
         add("assemble" + label, benchAssemble, pars);
+    }
+
+    for (const auto &[label, look] : {std::pair("slide show, ", &showSlides), std::pair("check, ", &check)}) {
+        for (const int pars : {3, 100, 3'000})
+            add(label + std::to_string(pars) + " pars and their parts", benchLooking, look, pars);
+        add(label + std::string("per slide of 3000 pars"), benchLookingGrowth, look);
     }
 
     const int deep = 25'000;

@@ -56,10 +56,9 @@ QString comparable(const QString &text, int round)
     return round > 1 ? result.toCaseFolded() : result;
 }
 
-QString withoutBracketsAndSpace(const QString &text)
+QString plainId(const QString &text)
 {
-    QString id = text.trimmed();
-    return id.startsWith(u'<') || id.endsWith(u'>') ? VySmilPrivate::withoutBrackets(id).toString() : id;
+    return VySmilPrivate::withoutBrackets(text).toString();
 }
 
 } // namespace
@@ -76,7 +75,7 @@ PartIndex::Match PartIndex::match(const QString &src, bool mustSeeAll)
         key.remove(0, 4);
     for (int round = 0; round < rounds; ++round) {
         const auto lookUp = [&](Fields fields) {
-            const QString text = fields == IDS ? withoutBracketsAndSpace(key) : key;
+            const QString text = fields == IDS ? plainId(key) : key;
             return table(round, fields).value(comparable(text, round));
         };
         const Entry preferred = lookUp(isCid ? IDS : LOCATIONS_AND_NAMES);
@@ -110,7 +109,7 @@ const PartIndex::Table &PartIndex::table(int round, Fields fields)
     };
     const auto asItIs = [](const QString &text) { return text; };
     if (fields == IDS) {
-        add(&VySmilPart::contentId, withoutBracketsAndSpace);
+        add(&VySmilPart::contentId, plainId);
     } else {
         add(&VySmilPart::contentLocation, asItIs);
         add(&VySmilPart::name, asItIs);
@@ -120,29 +119,34 @@ const PartIndex::Table &PartIndex::table(int round, Fields fields)
 
 QStringView withoutBrackets(QStringView text)
 {
-    if (text.startsWith(u'<'))
-        text = text.sliced(1);
-    if (text.endsWith(u'>'))
-        text.chop(1);
-    return text;
+    for (;;) {
+        text = text.trimmed();
+        if (text.startsWith(u'<'))
+            text = text.sliced(1);
+        else if (text.endsWith(u'>'))
+            text.chop(1);
+        else
+            return text;
+    }
 }
 
 bool isAsciiText(QStringView text)
 {
     return !text.trimmed().isEmpty() &&
-           std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
+           std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u' ' && c <= u'~'; });
 }
 
 QString referenceTo(PartIndex &index, const QList<VySmilPart> &parts, int part)
 {
+    const auto inAscii = [](const QString &text) {
+        return isAsciiText(text) ? text : QString::fromLatin1(QUrl::toPercentEncoding(text));
+    };
     const VySmilPart &target = parts.at(part);
-    QString location = target.contentLocation.trimmed();
+    const QString location = target.contentLocation.trimmed();
     if (isAsciiText(location) && index.find(location) == part)
         return location;
-    const QString id = withoutBrackets(QStringView(target.contentId).trimmed()).toString();
-    if (id.isEmpty())
-        return location;
-    return QStringLiteral("cid:") + (isAsciiText(id) ? id : QString::fromLatin1(QUrl::toPercentEncoding(id)));
+    const QString id = plainId(target.contentId);
+    return id.isEmpty() ? inAscii(location) : QStringLiteral("cid:") + inAscii(id);
 }
 
 } // namespace VySmilPrivate

@@ -55,10 +55,10 @@ private:
 /// the content id.
 QString referenceTo(PartIndex &index, const QList<VySmilPart> &parts, int part);
 
-/// A content id without the "<" and ">" around it.
+/// A content id without any "<", ">" and blanks around it.
 QStringView withoutBrackets(QStringView text);
 
-/// Whether there is a text, of ASCII alone.
+/// Whether there is a text, of ASCII alone, and without control characters.
 bool isAsciiText(QStringView text);
 
 } // namespace VySmilPrivate

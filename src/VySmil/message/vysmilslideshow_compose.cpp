@@ -46,7 +46,7 @@ private:
 void PartNamer::nameAll()
 {
     for (int i = 0; i < parts.size(); ++i) {
-        if (!VySmilPrivate::isAsciiText(parts.at(i).contentId) &&
+        if (!VySmilPrivate::isAsciiText(VySmilPrivate::withoutBrackets(parts.at(i).contentId)) &&
             !VySmilPrivate::isAsciiText(parts.at(i).contentLocation))
             name(i);
     }
@@ -66,8 +66,7 @@ void PartNamer::count(const VySmilPart &part, int number)
 {
     for (const QString &text : {part.contentId, part.contentLocation, part.name}) {
         if (!text.isEmpty())
-            taken[VySmilPrivate::withoutBrackets(QStringView(text).trimmed()).toString().toCaseFolded()] +=
-                number;
+            taken[VySmilPrivate::withoutBrackets(text).toString().toCaseFolded()] += number;
     }
 }
 

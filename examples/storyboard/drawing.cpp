@@ -11,24 +11,111 @@
 
 namespace {
 
-constexpr double slideWidth = 260; // of a drawn slide; the height follows from the root layout
-constexpr double margin = 20;
+// All in pixels of the picture.
+constexpr double cardWidth = 260;
+constexpr double maxScreenHeight = 320;
+constexpr double gap = 24;
 constexpr double lineHeight = 16;
-constexpr double trackHeight = 22;
-constexpr double defaultDuration = 5'000; // of a slide that names none and whose media name none
+constexpr double barHeight = 8;
+constexpr double iconSize = 14;
+constexpr int maxColumns = 5;
+
+const char *const styleSheet =
+    "text { font: 12px sans-serif; fill: #1d2433 } .title { font-weight: bold; font-size: 14px } "
+    ".faint { fill: #5b6475 } .note { fill: #a33c00; font-style: italic } "
+    ".card { fill: #fff; stroke: #d5d9e0 } .screen { fill: #fbfbf9; stroke: #1d2433; stroke-width: 1.5 } "
+    ".medium { stroke-width: 1 } .image { fill: #dcebfa; stroke: #2f6fb0 } "
+    ".video { fill: #e6e0f5; stroke: #6a4fb3 } .text { fill: #fff8df; stroke: #a8861b } "
+    ".other { fill: #ececec; stroke: #666 } .audio { fill: #dff2e1; stroke: #2f7d3b } "
+    ".guessed { stroke: #a33c00; stroke-dasharray: 5 3 } .icon { fill: #1d2433; fill-opacity: .75 } .large { "
+    "fill-opacity: .12 } "
+    ".track { fill: #eef0f3 } .tick { stroke: #5b6475 }";
 
 QString number(double value)
 {
     return QString::number(std::round(value * 100) / 100);
 }
 
+QString seconds(qint32 ms)
+{
+    return QString::number(ms / 1'000.0, 'g', 10);
+}
+
+// As wide as a text gets at most in the common fonts; a clip holds what is wider still.
+double widthOf(const QString &text)
+{
+    double width = 0;
+    for (const QChar c : text)
+        width += c.unicode() < 0x80 ? (c.isUpper() || c == u'm' || c == u'w' ? 9.5 : 6.8) : 12;
+    return width;
+}
+
+// A text of any direction keeps to itself: what is written beside it stays where it is.
+QString isolated(const QString &text)
+{
+    return QChar(0x2068) + text + QChar(0x2069);
+}
+
+// Left out in the middle: file names tell apart by their ends.
+QString elided(const QString &text, double width)
+{
+    if (widthOf(text) <= width)
+        return isolated(text);
+    qsizetype left = text.size() / 2;
+    qsizetype right = text.size() - left;
+    const auto joined = [&] { return text.left(left) + QChar(0x2026) + text.right(right); };
+    while (left + right > 0 && widthOf(joined()) > width)
+        --(left > right ? left : right);
+    return isolated(joined());
+}
+
+QString kindName(const VySmilMedium &medium)
+{
+    static const char *const names[] = {"image", "text", "audio", "video", "other"};
+    return QString::fromLatin1(names[medium.kind]);
+}
+
+QString nameOf(const VySmilMedium &medium)
+{
+    return medium.src.isEmpty() ? QStringLiteral("(no source)") : medium.src;
+}
+
+// What was guessed, in words.
+QString notesOn(const VySmilMedium &medium)
+{
+    QStringList notes;
+    if (medium.src.isEmpty() || medium.guesses.testFlag(VySmilMedium::GUESS_PART))
+        notes << QStringLiteral("not in the message");
+    if (medium.guesses.testFlag(VySmilMedium::GUESS_REGION))
+        notes << QStringLiteral("place guessed");
+    if (medium.guesses.testFlag(VySmilMedium::GUESS_TIME))
+        notes << QStringLiteral("times guessed");
+    return notes.join(QStringLiteral(", "));
+}
+
+// The path of an icon in a square of 14.
+QString iconOf(VySmilMedium::MEDIUM_KIND kind)
+{
+    switch (kind) {
+    case VySmilMedium::MEDIUM_IMAGE:
+        return QStringLiteral("M1 12 L5 5 L8 9 L10 7 L13 12 Z M10 2 h2 v2 h-2 Z");
+    case VySmilMedium::MEDIUM_TEXT:
+        return QStringLiteral("M1 2 h12 v2 h-12 Z M1 6 h12 v2 h-12 Z M1 10 h8 v2 h-8 Z");
+    case VySmilMedium::MEDIUM_AUDIO:
+        return QStringLiteral("M1 5 h3 L8 1 V13 L4 9 H1 Z M10 4 h1.5 v6 h-1.5 Z M12.5 2 h1.5 v10 h-1.5 Z");
+    case VySmilMedium::MEDIUM_VIDEO:
+        return QStringLiteral("M2 1 L13 7 L2 13 Z");
+    default:
+        return QStringLiteral("M2 1 h7 l3 3 v9 h-10 Z");
+    }
+}
+
 class Drawing
 {
 public:
-    explicit Drawing(const Storyboard &storyboard)
-        : board(storyboard),
-          scale(slideWidth / storyboard.size.width()),
-          slideHeight(std::min(storyboard.size.height() * scale, 4 * slideWidth)),
+    explicit Drawing(const VySmilSlideShow &slideShow)
+        : show(slideShow),
+          scale(std::min(cardWidth / slideShow.size.width(), maxScreenHeight / slideShow.size.height())),
           writer(&svg)
     {
     }
@@ -39,15 +126,22 @@ private:
     using Attributes = std::initializer_list<std::pair<const char *, QString>>;
 
     void start(const char *name, Attributes attributes);
+    void end() { writer.writeEndElement(); }
     void element(const char *name, Attributes attributes);
-    void text(double x, double y, const QString &content, const char *style = "label");
-    void drawSlide(const Slide &slide, int index, double left);
-    void drawRegion(const Slide &slide, int index);
-    void drawTimeLine(const Slide &slide, double top);
+    void text(double x, double y, const QString &content, const char *style = "label",
+              const char *anchor = "start");
+    void clipTo(const QString &id, double width, double height);
+    void icon(const VySmilMedium &medium, double x, double y, double size = iconSize);
 
-    const Storyboard &board;
+    double heightOf(const VySmilSlide &slide) const;
+    void drawSlide(const VySmilSlide &slide, int index);
+    void drawScreen(const VySmilSlide &slide, int index);
+    void drawMedium(const VySmilMedium &medium, const QString &clip, int lineOffset);
+    double drawTrack(const VySmilMedium &medium, const VySmilSlide &slide, double top);
+    void drawTicks(const VySmilSlide &slide, double top);
+
+    const VySmilSlideShow &show;
     const double scale;
-    const double slideHeight;
     QString svg;
     QXmlStreamWriter writer;
 };
@@ -62,29 +156,55 @@ void Drawing::start(const char *name, Attributes attributes)
 void Drawing::element(const char *name, Attributes attributes)
 {
     start(name, attributes);
-    writer.writeEndElement();
+    end();
 }
 
-void Drawing::text(double x, double y, const QString &content, const char *style)
+void Drawing::text(double x, double y, const QString &content, const char *style, const char *anchor)
 {
-    start("text", {{"class", style}, {"x", number(x)}, {"y", number(y)}});
-    QString shown = content;
-    // What XML cannot carry cannot be shown either.
+    start("text", {{"class", QString::fromLatin1(style)},
+                   {"x", number(x)},
+                   {"y", number(y)},
+                   {"text-anchor", QString::fromLatin1(anchor)}});
+    // What XML cannot carry cannot be shown either; half a surrogate pair does not pass UTF-8.
+    QString shown = QString::fromUtf8(content.toUtf8());
     std::replace_if(
         shown.begin(), shown.end(), [](QChar c) { return c < u' ' || c >= QChar(0xfffe); },
         QChar(QChar::ReplacementCharacter));
     writer.writeCharacters(shown);
-    writer.writeEndElement();
+    end();
+}
+
+void Drawing::clipTo(const QString &id, double width, double height)
+{
+    start("clipPath", {{"id", id}});
+    element("rect", {{"width", number(width)}, {"height", number(height)}});
+    end();
+}
+
+void Drawing::icon(const VySmilMedium &medium, double x, double y, double size)
+{
+    element(
+        "path",
+        {{"class", size > iconSize ? QStringLiteral("icon large") : QStringLiteral("icon")},
+         {"d", iconOf(medium.kind)},
+         {"transform",
+          QStringLiteral("translate(%1 %2) scale(%3)").arg(number(x), number(y), number(size / iconSize))}});
 }
 
 QString Drawing::draw()
 {
-    qsizetype tracks = 1;
-    for (const Slide &slide : board.slides)
-        tracks = std::max(tracks, slide.media.size());
-    const double width =
-        margin + static_cast<double>(std::max<qsizetype>(1, board.slides.size())) * (slideWidth + margin);
-    const double height = slideHeight + static_cast<double>(tracks) * trackHeight + 6 * lineHeight;
+    const int count = static_cast<int>(show.slides.size());
+    const int columns = std::clamp(count, 1, maxColumns);
+    QList<double> rowHeights;
+    for (int i = 0; i < count; ++i) {
+        if (i % columns == 0)
+            rowHeights << 0;
+        rowHeights.last() = std::max(rowHeights.last(), heightOf(show.slides.at(i)));
+    }
+    const double width = gap + columns * (cardWidth + 2 * gap);
+    double height = gap + lineHeight;
+    for (const double rowHeight : std::as_const(rowHeights))
+        height += rowHeight + gap;
 
     writer.setAutoFormatting(true);
     writer.writeStartDocument();
@@ -92,146 +212,165 @@ QString Drawing::draw()
                   {"width", number(width)},
                   {"height", number(height)},
                   {"viewBox", QStringLiteral("0 0 %1 %2").arg(number(width), number(height))}});
-    writer.writeTextElement(
-        QStringLiteral("style"),
-        QStringLiteral("text { font: 11px sans-serif; fill: #222 } .title { font-weight: bold } "
-                       ".note { fill: #a40; font-style: italic } .screen { fill: #fff; stroke: #222 } "
-                       ".region { fill: #4a90d9; fill-opacity: .12; stroke: #4a90d9 } "
-                       ".guessed { stroke: #a40; stroke-dasharray: 4 3 } .badge { fill: #fc6 } "
-                       ".axis { stroke: #222 } .bar { fill: #7bb662 } .open { fill-opacity: .4 }"));
+    writer.writeTextElement(QStringLiteral("style"), QString::fromLatin1(styleSheet));
     element("rect", {{"width", QStringLiteral("100%")},
                      {"height", QStringLiteral("100%")},
-                     {"fill", QStringLiteral("#f4f4f2")}});
-    if (board.slides.isEmpty())
-        text(margin, 2 * lineHeight, QStringLiteral("no slides"), "note");
-    for (int i = 0; i < board.slides.size(); ++i)
-        drawSlide(board.slides.at(i), i, margin + i * (slideWidth + margin));
+                     {"fill", QStringLiteral("#f3f4f6")}});
+    const bool isSizeGuessed = show.guesses.testFlag(VySmilMedium::GUESS_SIZE);
+    text(gap, gap, QStringLiteral("%1 x %2 pixels").arg(show.size.width()).arg(show.size.height()), "faint");
+    if (isSizeGuessed || count == 0)
+        text(gap + 110, gap, count == 0 ? QStringLiteral("no slides") : QStringLiteral("size guessed"),
+             "note");
+    double top = gap + lineHeight;
+    for (int i = 0; i < count; ++i) {
+        const int column = i % columns;
+        if (i > 0 && column == 0)
+            top += rowHeights.at(i / columns - 1) + gap;
+        start("g", {{"id", QStringLiteral("slide%1").arg(i + 1)},
+                    {"transform", QStringLiteral("translate(%1 %2)")
+                                      .arg(number(gap + column * (cardWidth + 2 * gap)), number(top))}});
+        drawSlide(show.slides.at(i), i);
+        end();
+    }
     writer.writeEndDocument();
     return svg;
 }
 
-void Drawing::drawSlide(const Slide &slide, int index, double left)
+double Drawing::heightOf(const VySmilSlide &slide) const
 {
-    const QString clip = QStringLiteral("screen%1").arg(index + 1);
-    start("g", {{"id", QStringLiteral("slide%1").arg(index + 1)},
-                {"transform", QStringLiteral("translate(%1 0)").arg(number(left))}});
-    text(0, lineHeight, QStringLiteral("Slide %1").arg(index + 1), "title");
-    text(60, lineHeight, slide.dur.text.isEmpty() ? QStringLiteral("(no duration)") : slide.dur.text,
-         slide.dur.text.isEmpty() ? "note" : "label");
+    double height = 2 * lineHeight + show.size.height() * scale + 3 * lineHeight;
+    for (const VySmilMedium &medium : slide.media)
+        height += (notesOn(medium).isEmpty() ? 1 : 2) * lineHeight + barHeight + 4;
+    return height;
+}
 
-    start("g", {{"transform", QStringLiteral("translate(0 %1)").arg(number(1.5 * lineHeight))}});
-    start("clipPath", {{"id", clip}});
-    element("rect", {{"width", number(slideWidth)}, {"height", number(slideHeight)}});
-    writer.writeEndElement();
-    element("rect",
-            {{"class", board.isSizeGuessed ? QStringLiteral("screen guessed") : QStringLiteral("screen")},
-             {"width", number(slideWidth)},
-             {"height", number(slideHeight)}});
+void Drawing::drawSlide(const VySmilSlide &slide, int index)
+{
+    element("rect", {{"class", QStringLiteral("card")},
+                     {"width", number(cardWidth + gap)},
+                     {"height", number(heightOf(slide))},
+                     {"rx", QStringLiteral("6")}});
+    start("g", {{"transform", QStringLiteral("translate(%1 0)").arg(number(gap / 2))}});
+    text(0, 1.4 * lineHeight, QString::number(index + 1), "title");
+    text(cardWidth, 1.4 * lineHeight, seconds(slide.durationMs) + QStringLiteral(" s"), "faint", "end");
+    if (slide.guesses.testFlag(VySmilMedium::GUESS_TIME))
+        text(cardWidth / 2, 1.4 * lineHeight, QStringLiteral("duration guessed"), "note", "middle");
+    drawScreen(slide, index);
+    double y = 2 * lineHeight + show.size.height() * scale + 1.5 * lineHeight;
+    for (const VySmilMedium &medium : slide.media)
+        y = drawTrack(medium, slide, y);
+    drawTicks(slide, y);
+    end();
+}
+
+void Drawing::drawScreen(const VySmilSlide &slide, int index)
+{
+    const double left = (cardWidth - show.size.width() * scale) / 2;
+    start("g", {{"transform", QStringLiteral("translate(%1 %2)").arg(number(left), number(2 * lineHeight))}});
+    const bool isGuessed = show.guesses.testFlag(VySmilMedium::GUESS_SIZE);
+    element("rect", {{"class", isGuessed ? QStringLiteral("screen guessed") : QStringLiteral("screen")},
+                     {"width", number(show.size.width() * scale)},
+                     {"height", number(show.size.height() * scale)}});
+    for (int i = 0; i < slide.media.size(); ++i) {
+        const VySmilMedium &medium = slide.media.at(i);
+        if (medium.rect.isNull())
+            continue;
+        // The labels of media in one place stand below each other.
+        const auto sharesPlace = [&medium](const VySmilMedium &other) { return other.rect == medium.rect; };
+        const auto before = std::count_if(slide.media.begin(), slide.media.begin() + i, sharesPlace);
+        drawMedium(medium, QStringLiteral("clip%1-%2").arg(index + 1).arg(i + 1), static_cast<int>(before));
+    }
+    end();
+}
+
+void Drawing::drawMedium(const VySmilMedium &medium, const QString &clip, int lineOffset)
+{
+    const double width = medium.rect.width() * scale;
+    const double height = medium.rect.height() * scale;
+    start("g", {{"transform", QStringLiteral("translate(%1 %2)")
+                                  .arg(number(medium.rect.x() * scale), number(medium.rect.y() * scale))}});
+    const bool isGuessed = medium.guesses.testFlag(VySmilMedium::GUESS_REGION);
+    element("rect", {{"class", QStringLiteral("medium ") + kindName(medium) +
+                                   (isGuessed ? QStringLiteral(" guessed") : QString())},
+                     {"width", number(width)},
+                     {"height", number(height)},
+                     {"fill-opacity", lineOffset > 0 ? QStringLiteral("0") : QStringLiteral("1")}});
+    clipTo(clip, width, height);
     start("g", {{"clip-path", QStringLiteral("url(#%1)").arg(clip)}});
-    for (int i = 0; i < slide.regions.size(); ++i)
-        drawRegion(slide, i);
-    double badgeLeft = 4;
-    for (const Media &media : slide.media) {
-        if (media.region >= 0)
-            continue;
-        element("circle", {{"class", QStringLiteral("badge")},
-                           {"cx", number(badgeLeft + 8)},
-                           {"cy", number(slideHeight - 12)},
-                           {"r", QStringLiteral("8")}});
-        text(badgeLeft + 4, slideHeight - 8, QStringLiteral("\u266a %1").arg(media.src), "audio");
-        badgeLeft += slideWidth / 2;
+    const double placeholder = std::min(width, height) / 2;
+    if (lineOffset == 0 && medium.kind != VySmilMedium::MEDIUM_TEXT && placeholder > iconSize)
+        icon(medium, (width - placeholder) / 2, (height - placeholder) / 2, placeholder);
+    const double y = 4 + lineOffset * lineHeight;
+    // A caption that the document carries is what a person reads; else the name stands for it.
+    if (medium.kind == VySmilMedium::MEDIUM_TEXT && !medium.alt.isEmpty()) {
+        text(4, y + 11, elided(medium.alt, width - 8));
+    } else {
+        const double labelLeft = iconSize + 8;
+        icon(medium, 4, y);
+        const QString fit = medium.fit.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(medium.fit);
+        text(labelLeft, y + 11, elided(nameOf(medium), width - labelLeft - 4 - widthOf(fit)) + fit);
     }
-    writer.writeEndElement();
-    writer.writeEndElement();
-
-    double below = slideHeight + 2.5 * lineHeight;
-    if (board.isSizeGuessed)
-        text(0, below,
-             QStringLiteral("size of the display not given, drawn as %1 x %2")
-                 .arg(board.size.width())
-                 .arg(board.size.height()),
-             "note");
-    drawTimeLine(slide, below + lineHeight / 2);
-    writer.writeEndElement();
+    end();
+    end();
 }
 
-void Drawing::drawRegion(const Slide &slide, int index)
+// A line with what plays, and its bar; gives where the next one begins.
+double Drawing::drawTrack(const VySmilMedium &medium, const VySmilSlide &slide, double top)
 {
-    const Region &region = slide.regions.at(index);
-    const double x = region.rect.x() * scale;
-    const double y = region.rect.y() * scale;
-    element("rect",
-            {{"class", region.isGuessed ? QStringLiteral("region guessed") : QStringLiteral("region")},
-             {"x", number(x)},
-             {"y", number(y)},
-             {"width", number(region.rect.width() * scale)},
-             {"height", number(region.rect.height() * scale)}});
-    const QString name = region.id.isEmpty() ? QStringLiteral("(no region)") : region.id;
-    text(x + 4, y + 12, region.fit.isEmpty() ? name : QStringLiteral("%1 [%2]").arg(name, region.fit),
-         region.isGuessed ? "note" : "title");
-    double line = y + 12 + lineHeight;
-    for (const Media &media : slide.media) {
-        if (media.region != index)
-            continue;
-        text(x + 4, line, QStringLiteral("%1: %2").arg(media.kind, media.src), "media");
-        line += lineHeight;
+    icon(medium, 0, top - 11);
+    text(iconSize + 6, top, elided(nameOf(medium), cardWidth - iconSize - 6));
+    double y = top + 4;
+    if (const QString notes = notesOn(medium); !notes.isEmpty()) {
+        text(iconSize + 6, top + lineHeight - 2, notes, "note");
+        y += lineHeight;
     }
+    const auto at = [&slide](qint32 ms) { return static_cast<double>(ms) / slide.durationMs * cardWidth; };
+    element("rect", {{"class", QStringLiteral("track")},
+                     {"y", number(y)},
+                     {"width", number(cardWidth)},
+                     {"height", number(barHeight)}});
+    const bool isGuessed = medium.guesses.testFlag(VySmilMedium::GUESS_TIME);
+    element("rect", {{"class", QStringLiteral("bar ") + kindName(medium) +
+                                   (isGuessed ? QStringLiteral(" guessed") : QString())},
+                     {"x", number(at(medium.beginMs))},
+                     {"y", number(y)},
+                     {"width", number(at(medium.endMs) - at(medium.beginMs))},
+                     {"height", number(barHeight)}});
+    return y + barHeight + lineHeight;
 }
 
-void Drawing::drawTimeLine(const Slide &slide, double top)
+void Drawing::drawTicks(const VySmilSlide &slide, double top)
 {
-    // The line is as long as the slide; where that is not known, as its media.
-    double total = slide.dur.milliSeconds.value_or(0);
-    for (const Media &media : slide.media) {
-        if (total > 0 && slide.dur.milliSeconds)
-            break;
-        const double begin = media.begin.milliSeconds.value_or(0);
-        total =
-            std::max({total, begin + media.dur.milliSeconds.value_or(0), media.end.milliSeconds.value_or(0)});
+    const double y = top - lineHeight + 2;
+    const QString last = seconds(slide.durationMs) + QStringLiteral(" s");
+    // At most five, each at a round number of seconds.
+    double step = std::pow(10, std::floor(std::log10(slide.durationMs)));
+    while (slide.durationMs / step > 5)
+        step *= 2;
+    while (slide.durationMs / step <= 2)
+        step /= 2;
+    for (double ms = 0; ms < slide.durationMs; ms += step) {
+        const double x = ms / slide.durationMs * cardWidth;
+        element("line", {{"class", QStringLiteral("tick")},
+                         {"x1", number(x)},
+                         {"x2", number(x)},
+                         {"y1", number(y)},
+                         {"y2", number(y + 4)}});
+        const QString label = QString::number(ms / 1'000, 'g', 10);
+        if (x + widthOf(label) < cardWidth - widthOf(last))
+            text(x, y + lineHeight, label, "faint", ms > 0 ? "middle" : "start");
     }
-    if (total <= 0)
-        total = defaultDuration;
-
-    double y = top;
-    for (const Media &media : slide.media) {
-        const bool isBeginKnown = media.begin.text.isEmpty() || media.begin.milliSeconds;
-        QStringList notes{media.src};
-        for (const auto &[name, moment] :
-             {std::pair("begin", media.begin), std::pair("end", media.end), std::pair("dur", media.dur)}) {
-            if (!moment.text.isEmpty())
-                notes << QStringLiteral("%1=%2").arg(QLatin1String(name), moment.text);
-        }
-        if (isBeginKnown) {
-            const double begin = std::min(media.begin.milliSeconds.value_or(0), total);
-            // What ends first ends it: its own end, or its duration; without either the slide does.
-            double end = total;
-            if (media.dur.milliSeconds)
-                end = std::min(end, begin + *media.dur.milliSeconds);
-            if (media.end.milliSeconds)
-                end = std::min(end, *media.end.milliSeconds);
-            const bool isOpen = !media.dur.milliSeconds && !media.end.milliSeconds;
-            element("rect", {{"class", isOpen ? QStringLiteral("bar open") : QStringLiteral("bar")},
-                             {"x", number(begin / total * slideWidth)},
-                             {"y", number(y)},
-                             {"width", number(std::max(0.0, end - begin) / total * slideWidth)},
-                             {"height", number(trackHeight - 4)}});
-        }
-        text(4, y + 13, notes.join(QStringLiteral("  ")), isBeginKnown ? "track" : "note");
-        y += trackHeight;
-    }
-    element("line", {{"class", QStringLiteral("axis")},
-                     {"x1", QStringLiteral("0")},
-                     {"x2", number(slideWidth)},
+    element("line", {{"class", QStringLiteral("tick")},
+                     {"x1", number(cardWidth)},
+                     {"x2", number(cardWidth)},
                      {"y1", number(y)},
-                     {"y2", number(y)}});
-    text(0, y + 12, QStringLiteral("0"));
-    text(slideWidth - 50, y + 12, QStringLiteral("%1 s").arg(total / 1'000),
-         slide.dur.milliSeconds ? "label" : "note");
+                     {"y2", number(y + 4)}});
+    text(cardWidth, y + lineHeight, last, "faint", "end");
 }
 
 } // namespace
 
-QString drawingOf(const Storyboard &board)
+QString drawingOf(const VySmilSlideShow &show)
 {
-    return Drawing(board).draw();
+    return Drawing(show).draw();
 }

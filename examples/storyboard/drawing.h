@@ -4,9 +4,10 @@
 #ifndef VYSMIL_EXAMPLES_DRAWING_H
 #define VYSMIL_EXAMPLES_DRAWING_H
 
-#include "slides.h"
+#include <VySmil/message/vysmilslideshow.h>
 
-/// A self-contained SVG of \a board: its slides from left to right, each with a time line below.
-QString drawingOf(const Storyboard &board);
+/// A self-contained SVG of \a show: a card for each slide, with the screen to scale and a time line below.
+/// What was guessed is dashed, and said in a line of its own.
+QString drawingOf(const VySmilSlideShow &show);
 
 #endif

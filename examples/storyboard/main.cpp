@@ -6,6 +6,8 @@
 #include "../readtext.h"
 #include "drawing.h"
 
+#include <VySmil/VySmil>
+
 #include <cstdio>
 
 int main(int argc, char **argv)
@@ -19,7 +21,9 @@ int main(int argc, char **argv)
         std::fprintf(stderr, "storyboard: %s: %s\n", qPrintable(path), qPrintable(error));
         return 1;
     }
-    const QByteArray svg = drawingOf(storyboardOf(root)).toUtf8();
+    VySmilSlideShow show;
+    show.fromTree(root);
+    const QByteArray svg = drawingOf(show).toUtf8();
     std::fwrite(svg.constData(), 1, static_cast<size_t>(svg.size()), stdout);
     return 0;
 }

@@ -138,8 +138,9 @@ bool isAsciiText(QStringView text)
 
 QString referenceTo(PartIndex &index, const QList<VySmilPart> &parts, int part)
 {
+    // The text of the part is decoded too when it is compared.
     const auto inAscii = [](const QString &text) {
-        return isAsciiText(text) ? text : QString::fromLatin1(QUrl::toPercentEncoding(text));
+        return isAsciiText(text) ? text : QString::fromLatin1(QUrl::toPercentEncoding(percentDecoded(text)));
     };
     const VySmilPart &target = parts.at(part);
     const QString location = target.contentLocation.trimmed();

@@ -54,7 +54,7 @@ void PartNamer::nameAll()
     VySmilPrivate::PartIndex index(parts);
     std::vector<int> hidden;
     for (int i = 0; i < parts.size(); ++i) {
-        if (parts.at(i).contentId.trimmed().isEmpty() &&
+        if (parts.at(i).contentId.trimmed().isEmpty() && !VySmilPrivate::isSmilPart(parts.at(i)) &&
             index.find(VySmilPrivate::referenceTo(index, parts, i)) != i)
             hidden.push_back(i);
     }

@@ -1,7 +1,8 @@
 # SPDX-FileCopyrightText: 2026 the VySmil authors
 # SPDX-License-Identifier: MIT
 
-# Run by the test "package" with BUILD_DIR, SOURCE_DIR, WORK_DIR, LIB_DIR, COMPILER and GENERATOR.
+# Builds and runs clients in WORK_DIR, with SOURCE_DIR, LIB_DIR, COMPILER and GENERATOR, against nothing but what is
+# installed in PREFIX; with BUILD_DIR instead, that build is installed first.
 cmake_minimum_required(VERSION 3.22)
 
 function(run)
@@ -9,11 +10,13 @@ function(run)
 endfunction()
 
 file(REMOVE_RECURSE "${WORK_DIR}")
-set(prefix "${WORK_DIR}/prefix")
-set(libdir "${prefix}/${LIB_DIR}")
-run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${prefix})
+if(NOT PREFIX)
+    set(PREFIX "${WORK_DIR}/prefix")
+    run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${PREFIX})
+endif()
+set(libdir "${PREFIX}/${LIB_DIR}")
 
-run(${CMAKE_COMMAND} -G ${GENERATOR} -S ${SOURCE_DIR} -B ${WORK_DIR}/cmake -D CMAKE_PREFIX_PATH=${prefix}
+run(${CMAKE_COMMAND} -G ${GENERATOR} -S ${SOURCE_DIR} -B ${WORK_DIR}/cmake -D CMAKE_PREFIX_PATH=${PREFIX}
     -D CMAKE_CXX_COMPILER=${COMPILER})
 run(${CMAKE_COMMAND} --build ${WORK_DIR}/cmake)
 run(${WORK_DIR}/cmake/consumer)

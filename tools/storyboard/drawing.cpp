@@ -349,7 +349,8 @@ void Drawing::drawTicks(const VySmilSlide &slide, double top)
         step *= 2;
     while (slide.durationMs / step <= 2)
         step /= 2;
-    for (double ms = 0; ms < slide.durationMs; ms += step) {
+    for (int i = 0; i * step < slide.durationMs; ++i) {
+        const double ms = i * step;
         const double x = ms / slide.durationMs * cardWidth;
         element("line", {{"class", QStringLiteral("tick")},
                          {"x1", number(x)},
@@ -358,7 +359,7 @@ void Drawing::drawTicks(const VySmilSlide &slide, double top)
                          {"y2", number(y + 4)}});
         const QString label = QString::number(ms / 1'000, 'g', 10);
         if (x + widthOf(label) < cardWidth - widthOf(last))
-            text(x, y + lineHeight, label, "faint", ms > 0 ? "middle" : "start");
+            text(x, y + lineHeight, label, "faint", i > 0 ? "middle" : "start");
     }
     element("line", {{"class", QStringLiteral("tick")},
                      {"x1", number(cardWidth)},

@@ -143,7 +143,7 @@ QString referenceTo(PartIndex &index, const QList<VySmilPart> &parts, int part)
         return isAsciiText(text) ? text : QString::fromLatin1(QUrl::toPercentEncoding(percentDecoded(text)));
     };
     const VySmilPart &target = parts.at(part);
-    const QString location = target.contentLocation.trimmed();
+    QString location = target.contentLocation.trimmed();
     if (isAsciiText(location) && index.find(location) == part)
         return location;
     const QString id = plainId(target.contentId);

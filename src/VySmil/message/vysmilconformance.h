@@ -13,6 +13,8 @@ class VySmilElemSmil;
 
 /// Finds what other phones and gateways will trip over (OMA MMS Conformance Document 1.2, SMIL, and what real
 /// messages taught). The sizes of parts and messages are not looked at.
+///
+/// \see [Checking a message before it is sent](checking.md)
 class VYSMIL_EXPORT VySmilConformance
 {
 public:

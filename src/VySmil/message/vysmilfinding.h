@@ -11,6 +11,8 @@
 class VySmilElemBase;
 
 /// One thing that a check of a message found: where, against which rule, and how grave it is.
+///
+/// \see [Checking a message before it is sent](checking.md)
 class VYSMIL_EXPORT VySmilFinding
 {
 public:

@@ -13,6 +13,8 @@
 class VySmilElemBase;
 
 /// One thing that a slide shows or plays.
+///
+/// \see [Showing a received message](showing.md)
 class VYSMIL_EXPORT VySmilMedium
 {
 public:

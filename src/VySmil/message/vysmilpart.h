@@ -10,6 +10,8 @@
 
 /// One part of a multimedia message beside its SMIL: what a medium of the SMIL refers to (RFC 2557, OMA MMS
 /// Encapsulation). The library looks at the headers alone, and leaves the contents to the client.
+///
+/// \see [Showing a received message](showing.md), [Composing a message](composing.md)
 class VYSMIL_EXPORT VySmilPart
 {
 public:

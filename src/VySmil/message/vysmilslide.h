@@ -9,6 +9,8 @@
 #include <QList>
 
 /// One slide of a message: what is shown and played at the same time.
+///
+/// \see [Showing a received message](showing.md)
 class VYSMIL_EXPORT VySmilSlide
 {
 public:

@@ -12,6 +12,8 @@
 class VySmilElemSmil;
 
 /// What a slide show takes for what its document does not say. A number of 0 or less means its default.
+///
+/// \see [Showing a received message](showing.md)
 class VYSMIL_EXPORT VySmilSlideShowOptions
 {
 public:
@@ -22,6 +24,8 @@ public:
 /// What a message shows: its slides, each medium with its part, its place and its times.
 ///
 /// Works on any tree, however deep or odd, in time linear in the elements and parts.
+///
+/// \see [Showing a received message](showing.md), [Composing a message](composing.md)
 class VYSMIL_EXPORT VySmilSlideShow
 {
 public:

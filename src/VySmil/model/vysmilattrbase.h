@@ -14,6 +14,8 @@ class VySmilElemBase;
 ///
 /// A group keeps no values and checks nothing. It does not own its element, and is valid only as long as that
 /// element lives. Reading or writing through a group without an element is an error of the caller.
+///
+/// \see [Editing a message](editing.md)
 class VYSMIL_EXPORT VySmilAttrBase : public VySmilBase
 {
 public:

@@ -8,6 +8,8 @@
 #include <VySmil/vysmil.h>
 
 /// The attribute "id", which names an element.
+///
+/// \see [Editing a message](editing.md)
 class VYSMIL_EXPORT VySmilAttrCommon : public VySmilAttrBase
 {
 public:

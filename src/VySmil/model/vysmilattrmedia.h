@@ -8,6 +8,8 @@
 #include <VySmil/vysmil.h>
 
 /// The attribute "src", which says where the media of a media object are.
+///
+/// \see [Editing a message](editing.md)
 class VYSMIL_EXPORT VySmilAttrMedia : public VySmilAttrBase
 {
 public:

@@ -23,6 +23,8 @@ class QDomElement;
 /// gave until it stands in an owning list. No operation recurses, so that depth costs no stack, with one
 /// exception: toString() calls the toString() of a class that a client derived, as it may be its own. Such
 /// elements nested in each other take stack for each level; 10,000 levels fit into 8 MB.
+///
+/// \see [Editing a message](editing.md), [Results and findings](findings.md)
 class VYSMIL_EXPORT VySmilElemBase : public VySmilBase
 {
 public:

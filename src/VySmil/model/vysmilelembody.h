@@ -10,6 +10,8 @@
 /// The "body" of a document: the slides in their order (W3C SMIL 2.0, Structure).
 ///
 /// Under VySmil::SMIL_VER_DEFAULT it accepts no attribute, "id" included; under any other version "id" alone.
+///
+/// \see [Editing a message](editing.md)
 class VYSMIL_EXPORT VySmilElemBody : public VySmilElemBase
 {
 public:

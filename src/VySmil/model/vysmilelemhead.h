@@ -10,6 +10,8 @@
 /// The "head" of a document: its layout and meta data (W3C SMIL 2.0, Structure).
 ///
 /// Under VySmil::SMIL_VER_DEFAULT it accepts no attribute, "id" included; under any other version "id" alone.
+///
+/// \see [Editing a message](editing.md)
 class VYSMIL_EXPORT VySmilElemHead : public VySmilElemBase
 {
 public:

@@ -7,6 +7,8 @@
 #include <VySmil/model/vysmilelembase.h>
 
 /// The "layout" in the head: one root layout and the regions (W3C SMIL 2.0, Layout). Accepts no attribute.
+///
+/// \see [Editing a message](editing.md)
 class VYSMIL_EXPORT VySmilElemLayout : public VySmilElemBase
 {
 public:

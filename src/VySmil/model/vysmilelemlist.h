@@ -16,6 +16,8 @@ class VySmilElemBase;
 /// with their subtrees, however deep those are: deletion does not recurse. An element may stand in one owning
 /// list only. A list that a client makes starts with auto-deletion off; the list of an element starts with it
 /// on. Null is never stored. Positions count from 0.
+///
+/// \see [Editing a message](editing.md)
 class VYSMIL_EXPORT VySmilElemList
 {
 public:

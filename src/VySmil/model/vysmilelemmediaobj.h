@@ -11,6 +11,8 @@
 /// Base of the media objects: what a slide shows or plays (W3C SMIL 2.0, Media Objects).
 ///
 /// Accepts "src", "begin", "end", "dur", "alt" and "region"; audio objects do not accept "region".
+///
+/// \see [Editing a message](editing.md)
 class VYSMIL_EXPORT VySmilElemMediaObj : public VySmilElemBase
 {
 public:

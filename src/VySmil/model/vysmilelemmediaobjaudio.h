@@ -7,6 +7,8 @@
 #include <VySmil/model/vysmilelemmediaobj.h>
 
 /// The media object "audio": sound. It is not shown, so it does not accept "region".
+///
+/// \see [Editing a message](editing.md)
 class VYSMIL_EXPORT VySmilElemMediaObjAudio : public VySmilElemMediaObj
 {
 public:

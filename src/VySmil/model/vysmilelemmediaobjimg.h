@@ -7,6 +7,8 @@
 #include <VySmil/model/vysmilelemmediaobj.h>
 
 /// The media object "img": a picture.
+///
+/// \see [Editing a message](editing.md)
 class VYSMIL_EXPORT VySmilElemMediaObjImg : public VySmilElemMediaObj
 {
 public:

@@ -7,6 +7,8 @@
 #include <VySmil/model/vysmilelemmediaobj.h>
 
 /// The media object "ref": media of any kind.
+///
+/// \see [Editing a message](editing.md)
 class VYSMIL_EXPORT VySmilElemMediaObjRef : public VySmilElemMediaObj
 {
 public:

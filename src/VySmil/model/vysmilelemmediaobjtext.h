@@ -7,6 +7,8 @@
 #include <VySmil/model/vysmilelemmediaobj.h>
 
 /// The media object "text": a text.
+///
+/// \see [Editing a message](editing.md)
 class VYSMIL_EXPORT VySmilElemMediaObjText : public VySmilElemMediaObj
 {
 public:

@@ -7,6 +7,8 @@
 #include <VySmil/model/vysmilelemmediaobj.h>
 
 /// The media object "video": a film.
+///
+/// \see [Editing a message](editing.md)
 class VYSMIL_EXPORT VySmilElemMediaObjVideo : public VySmilElemMediaObj
 {
 public:

@@ -9,6 +9,8 @@
 /// A "meta" element: a property of the document and its content (W3C SMIL 2.0, Metainformation).
 ///
 /// Accepts "name" and "content".
+///
+/// \see [Editing a message](editing.md)
 class VYSMIL_EXPORT VySmilElemMeta : public VySmilElemBase
 {
 public:

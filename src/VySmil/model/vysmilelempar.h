@@ -10,6 +10,8 @@
 /// A "par": one slide, whose media objects play at the same time (W3C SMIL 2.0, Timing and Synchronization).
 ///
 /// Accepts "dur"; not "begin" and "end", though its timing group reads and writes them.
+///
+/// \see [Editing a message](editing.md)
 class VYSMIL_EXPORT VySmilElemPar : public VySmilElemBase
 {
 public:

@@ -15,6 +15,8 @@
 /// A typed getter gives what reading the stored text leaves, without a word if that text does not read, and
 /// the empty value for an absent attribute. A typed setter stores the printed text, an empty one for an empty
 /// value.
+///
+/// \see [Editing a message](editing.md)
 class VYSMIL_EXPORT VySmilElemRegion : public VySmilElemBase
 {
 public:

@@ -7,6 +7,8 @@
 #include <VySmil/model/vysmilelembase.h>
 
 /// The root element "smil" of a document (W3C SMIL 2.0, Structure). Accepts no attribute.
+///
+/// \see [Editing a message](editing.md)
 class VYSMIL_EXPORT VySmilElemSmil : public VySmilElemBase
 {
 public:

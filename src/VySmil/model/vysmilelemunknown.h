@@ -7,6 +7,8 @@
 #include <VySmil/model/vysmilelembase.h>
 
 /// An element whose name is not in the vocabulary. It bears any name and accepts every attribute.
+///
+/// \see [Editing a message](editing.md)
 class VYSMIL_EXPORT VySmilElemUnknown : public VySmilElemBase
 {
 public:

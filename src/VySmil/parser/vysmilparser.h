@@ -8,6 +8,9 @@
 
 /// Reads whole documents into a tree, and writes trees as whole documents (W3C SMIL 2.0, in the profile of
 /// multimedia messages).
+///
+/// \see [Reading a received message](reading.md), [Results and findings](findings.md), [Limits and hostile
+/// input](limits.md)
 class VYSMIL_EXPORT VySmilParser
 {
 public:

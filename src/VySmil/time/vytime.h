@@ -22,6 +22,8 @@
 /// "timeType" says which member is the value. A read sets it as soon as it knows the kind, and lets that
 /// member read the text; a failed read keeps the kind and what the member left, and the other members stay as
 /// they were.
+///
+/// \see [Time values](times.md)
 class VYSMIL_EXPORT VySmil::VyTime
 {
 public:

@@ -13,6 +13,8 @@
 ///
 /// A failed read keeps the fields that it stored before the fault.
 /// Without "accesskey(", ")" or a key nothing changes.
+///
+/// \see [Time values](times.md)
 class VYSMIL_EXPORT VySmil::VyTimeAccessKey
 {
 public:

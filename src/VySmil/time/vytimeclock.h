@@ -15,6 +15,8 @@
 ///
 /// A read sets "clockType" first and then reads the member that it selects, which keeps what that read
 /// leaves; the other members stay as they were.
+///
+/// \see [Time values](times.md)
 class VYSMIL_EXPORT VySmil::VyTimeClock
 {
 public:

@@ -12,6 +12,8 @@
 /// Timing: Timecount-val). Without a metric the number is seconds.
 ///
 /// A failed read leaves the metric that the text ends in, and the number that it begins with, or 0.
+///
+/// \see [Time values](times.md)
 class VYSMIL_EXPORT VySmil::VyTimeCount
 {
 public:

@@ -12,6 +12,8 @@
 /// Media-marker-value).
 ///
 /// A failed read keeps the fields that it stored before the fault. Without a "." nothing changes.
+///
+/// \see [Time values](times.md)
 class VYSMIL_EXPORT VySmil::VyTimeMediaMarker
 {
 public:

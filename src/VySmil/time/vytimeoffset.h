@@ -13,6 +13,8 @@
 ///
 /// A read that finds no sign changes nothing; one that fails behind it keeps the sign and what the clock
 /// value left.
+///
+/// \see [Time values](times.md)
 class VYSMIL_EXPORT VySmil::VyTimeOffset
 {
 public:

@@ -12,6 +12,8 @@
 ///
 /// No field is checked against a range. A read that does not find exactly one ":" changes nothing; one that
 /// fails at a field keeps the fields before it.
+///
+/// \see [Time values](times.md)
 class VYSMIL_EXPORT VySmil::VyTimePartialClock
 {
 public:

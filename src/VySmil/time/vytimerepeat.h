@@ -12,6 +12,8 @@
 /// Repeat-value). The offset is required.
 ///
 /// A failed read keeps the fields that it stored before the fault. Without "repeat(" nothing changes.
+///
+/// \see [Time values](times.md)
 class VYSMIL_EXPORT VySmil::VyTimeRepeat
 {
 public:

@@ -15,6 +15,8 @@
 /// No field is checked against a range. A read that finds no kind changes nothing; one that fails behind it
 /// keeps the kind and the fields before the fault, with 0 in the one that is no number. Where a ":" is
 /// missing, the field before it stays as it was.
+///
+/// \see [Time values](times.md)
 class VYSMIL_EXPORT VySmil::VyTimeSmpte
 {
 public:

@@ -12,6 +12,8 @@
 /// The offset is required.
 ///
 /// A failed read keeps the fields that it stored before the fault. Without a "." nothing changes.
+///
+/// \see [Time values](times.md)
 class VYSMIL_EXPORT VySmil::VyTimeSycBase
 {
 public:

@@ -19,6 +19,8 @@
 /// without seconds or zone keeps those of an earlier read. A date that the calendar does not have is null,
 /// and no failure. A zone without a time of day is dropped but for its sign, and no failure either:
 /// "wallclock(2004-05-06T-05:00)" is the date alone.
+///
+/// \see [Time values](times.md)
 class VYSMIL_EXPORT VySmil::VyWallClockSyncTime
 {
 public:

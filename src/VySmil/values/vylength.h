@@ -11,6 +11,8 @@
 /// A length of the layout: whole pixels or a percentage (W3C SMIL 2.0, Layout; the lengths of CSS2).
 ///
 /// A failed read leaves 0 pixels, or for a text that ends in "%" the percentage that it begins with, or 0.
+///
+/// \see [Lengths](lengths.md)
 class VYSMIL_EXPORT VySmil::VyLength
 {
 public:

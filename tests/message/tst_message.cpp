@@ -162,7 +162,7 @@ private Q_SLOTS:
             show.fromTree(root, {}, {screen, duration});
             return slidesText(show).section(u'\n', 0, 1);
         };
-        QCOMPARE(shown(QSize(50, 60), 7), "50x30 size?\nslide 7 time?");
+        QCOMPARE(shown(QSize(50, 60), 1), "50x30 size?\nslide 1 time?");
         QCOMPARE(shown(QSize(), 0), "320x240 size?\nslide 5000 time?");
         QCOMPARE(shown(QSize(-5, 70'000), -1), "320x32768 size?\nslide 5000 time?");
     }
@@ -187,7 +187,8 @@ private Q_SLOTS:
     {
         QList<VySmilPart> parts{
             MessageCase::partOf("|a.jpg||image/jpeg"), MessageCase::partOf("<s@x>|é||audio/amr|700"),
-            MessageCase::partOf("|b.txt||text/plain"), MessageCase::partOf("<é>|ü||image/gif")};
+            MessageCase::partOf("|b.txt||text/plain"), MessageCase::partOf("<é>|ü||image/gif"),
+            MessageCase::partOf("|t.amr||audio/amr|0")};
         VySmilSlideShow show = VySmilSlideShow::fromParts(parts);
         show.slides[0].durationMs = 1'000;
         show.slides[0].media[0].beginMs = 300;
@@ -205,7 +206,7 @@ private Q_SLOTS:
                                  "region[fit=slice height=180 id=Image2 left=10 top=300 width=310])) "
                                  "body(par[dur=1000ms](img[begin=300ms end=700ms region=Image src=a.jpg] "
                                  "audio[end=700ms src=cid:s@x] text[end=700ms region=Text src=b.txt]) "
-                                 "par[dur=5000ms](img[region=Image2 src=cid:%C3%A9])))");
+                                 "par[dur=5000ms](img[region=Image2 src=cid:%C3%A9] audio[src=t.amr])))");
         show.toTree(nullptr, parts);
     }
 

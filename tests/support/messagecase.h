@@ -33,12 +33,12 @@ struct MessageCase
     {
         const QStringList fields = line.split(u'|');
         VySmilPart part;
-        part.contentId = fields.value(0).trimmed();
-        part.contentLocation = fields.value(1).trimmed();
-        part.name = fields.value(2).trimmed();
-        part.contentType = fields.value(3).trimmed();
+        part.contentId = fields.value(0);
+        part.contentLocation = fields.value(1);
+        part.name = fields.value(2);
+        part.contentType = fields.value(3);
         bool isNumber = false;
-        const int ms = fields.value(4).trimmed().toInt(&isNumber);
+        const int ms = fields.value(4).toInt(&isNumber);
         part.durationMs = isNumber ? ms : -1;
         return part;
     }

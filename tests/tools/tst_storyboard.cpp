@@ -136,6 +136,21 @@ private Q_SLOTS:
         QCOMPARE(exitCode, 2);
     }
 
+    void writesAFile()
+    {
+        QTemporaryDir dir;
+        QFile message(dir.filePath("a.smil"));
+        QVERIFY(message.open(QIODevice::WriteOnly) && message.write("<smil/>") > 0);
+        message.close();
+        int exitCode = -1;
+        const QString drawn = dir.filePath("a.svg");
+        QCOMPARE(QProcess::execute(PROGRAM, {"-o", drawn, message.fileName()}), 0);
+        QFile picture(drawn);
+        QVERIFY(picture.open(QIODevice::ReadOnly));
+        QCOMPARE(picture.readAll(), draw("<smil/>", exitCode));
+        QCOMPARE(QProcess::execute(PROGRAM, {"-o", dir.filePath("no/a.svg"), message.fileName()}), 2);
+    }
+
     // The picture in the README is what the demonstration draws.
     void readmeShowsThisPicture()
     {

@@ -52,6 +52,13 @@ QStringView withoutEnd(QStringView text, QStringView end)
     return text.endsWith(end) ? text.chopped(end.size()) : text;
 }
 
+// A name as paths tell it: one that goes on and on stands in the paths of all that is below it.
+QString shortened(const QString &name)
+{
+    constexpr qsizetype shown = 32;
+    return name.size() <= shown ? name : name.left(shown) + QStringLiteral("...");
+}
+
 // The steps from the root to the element that is looked at.
 class Path
 {
@@ -98,7 +105,7 @@ QString Path::text()
             parent.childNumbers = numbersOfChildren(*parent.elem);
         if (!text.isEmpty())
             text += u'/';
-        text += steps[i].elem->getElemType();
+        text += shortened(steps[i].elem->getElemType());
         if (const int number = parent.childNumbers[steps[i].position]; number > 0)
             text += u'[' + QString::number(number) + u']';
     }
@@ -225,28 +232,22 @@ Checker::Checker(const VySmilElemSmil &root, VySmilConformance::CONFORMANCE_LEVE
 void Checker::find(VySmilFinding::RULE rule, Severity strict, Severity relaxed, const QString &attribute,
                    const QString &message)
 {
-    const Severity severity = isStrict ? strict : relaxed;
-    if (!severity)
-        return;
-    for (VySmilFinding &other : current) {
-        if (other.rule != rule || other.attribute != attribute)
-            continue;
-        if (*severity < other.severity) {
-            other.severity = *severity;
-            other.message = message;
-        }
-        return;
-    }
-    current.append({rule, *severity, nullptr, attribute, QString(), message});
+    if (const Severity severity = isStrict ? strict : relaxed)
+        current.append({rule, *severity, nullptr, attribute, QString(), message});
 }
 
 void Checker::keepFindings(const VySmilElemBase &elem)
 {
     if (current.isEmpty())
         return;
-    std::sort(current.begin(), current.end(), [](const VySmilFinding &a, const VySmilFinding &b) {
-        return std::tie(a.attribute, a.rule) < std::tie(b.attribute, b.rule);
+    // Of each rule and attribute the gravest, and of those the first that was found.
+    std::stable_sort(current.begin(), current.end(), [](const VySmilFinding &a, const VySmilFinding &b) {
+        return std::tie(a.attribute, a.rule, a.severity) < std::tie(b.attribute, b.rule, b.severity);
     });
+    const auto isAboutTheSame = [](const VySmilFinding &a, const VySmilFinding &b) {
+        return a.attribute == b.attribute && a.rule == b.rule;
+    };
+    current.erase(std::unique(current.begin(), current.end(), isAboutTheSame), current.end());
     const QString where = path.text();
     for (VySmilFinding &finding : current) {
         finding.elem = &elem;

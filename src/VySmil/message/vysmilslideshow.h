@@ -41,9 +41,8 @@ public:
     /// child alone counts.
     ///
     /// *Parts.* A "src" is compared with the texts of the parts as they are, then with %XX decoded and
-    /// without a leading
-    /// "./", then in any letter case; "cid:" prefers the content id, all else the content location and the
-    /// name. Parts of type application/smil are left out.
+    /// without a leading "./", then in any letter case; "cid:" prefers the content id, all else the content
+    /// location and the name. Parts of type application/smil are left out.
     ///
     /// *Places.* The region that is named, exactly or in any letter case; else "Text" or "Image"; else all of
     /// the root layout, or, where a slide has a text and a picture, the text below and the picture above.

@@ -34,6 +34,9 @@ struct Document
 
 QString inWords(int result);
 QString inWords(VySmil::STATUS_CODE status);
+/// What kind of value the library reads an attribute of this name as.
+bool holdsLength(const QString &attribute);
+bool holdsTime(const QString &attribute);
 /// "image", "text", "audio", "video" or "other".
 QString nameOf(VySmilMedium::MEDIUM_KIND kind);
 /// "size", "region", "time" and "part".

@@ -12,18 +12,15 @@ constexpr auto version = VySmil::SMIL_VER_DEFAULT;
 // What an attribute says as a length or a time; nothing for an attribute of another kind.
 QJsonObject typedReading(const QString &name, const QString &text)
 {
-    static const QStringList lengths{QStringLiteral("width"), QStringLiteral("height"),
-                                     QStringLiteral("left"), QStringLiteral("top")};
-    static const QStringList times{QStringLiteral("begin"), QStringLiteral("end"), QStringLiteral("dur")};
     QJsonObject reading;
-    if (lengths.contains(name)) {
+    if (holdsLength(name)) {
         VySmil::VyLength length;
         reading[QStringLiteral("reads")] = length.fromString(text) == VySmil::RESULT_OK;
         if (length.unit == VySmil::UNIT_PIXELS)
             reading[QStringLiteral("pixels")] = length.value.pixels;
         else if (length.unit == VySmil::UNIT_PERCENT)
             reading[QStringLiteral("percent")] = static_cast<double>(length.value.percent);
-    } else if (times.contains(name)) {
+    } else if (holdsTime(name)) {
         VySmil::VyTime time;
         reading[QStringLiteral("reads")] = time.fromString(text) == VySmil::RESULT_OK;
         reading[QStringLiteral("time")] = time.toString();

@@ -33,6 +33,19 @@ QString inWords(VySmil::STATUS_CODE status)
     }
 }
 
+bool holdsLength(const QString &attribute)
+{
+    static const QStringList lengths{QStringLiteral("width"), QStringLiteral("height"),
+                                     QStringLiteral("left"), QStringLiteral("top")};
+    return lengths.contains(attribute);
+}
+
+bool holdsTime(const QString &attribute)
+{
+    static const QStringList times{QStringLiteral("begin"), QStringLiteral("end"), QStringLiteral("dur")};
+    return times.contains(attribute);
+}
+
 QString nameOf(VySmilMedium::MEDIUM_KIND kind)
 {
     static const char *const names[] = {"image", "text", "audio", "video", "other"};
@@ -92,12 +105,9 @@ QString reading(const QString &text)
 // What the library makes of an attribute that has a type, or nothing.
 QString typedReading(const QString &name, const QString &text)
 {
-    static const QStringList lengths{QStringLiteral("width"), QStringLiteral("height"),
-                                     QStringLiteral("left"), QStringLiteral("top")};
-    static const QStringList times{QStringLiteral("begin"), QStringLiteral("end"), QStringLiteral("dur")};
-    if (lengths.contains(name))
+    if (holdsLength(name))
         return reading<VySmil::VyLength>(text);
-    return times.contains(name) ? reading<VySmil::VyTime>(text) : QString();
+    return holdsTime(name) ? reading<VySmil::VyTime>(text) : QString();
 }
 
 void printTree(QTextStream &out, const VySmilElemBase &elem, int indent)

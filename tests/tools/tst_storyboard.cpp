@@ -3,6 +3,7 @@
 
 // The pictures that the program "storyboard" draws: geometry and times, read from the SVG.
 
+#include <QDir>
 #include <QDomDocument>
 #include <QFile>
 #include <QProcess>
@@ -132,8 +133,13 @@ private Q_SLOTS:
     void badInputIsRefused()
     {
         int exitCode = -1;
-        QVERIFY(draw("<smil><body>", exitCode).isEmpty());
-        QCOMPARE(exitCode, 2);
+        for (const QByteArray &document :
+             {QByteArray("<smil><body>"), QByteArray(), QByteArray("\x89PNG\r\n\0", 7),
+              QByteArray("<smil>").repeated(50'000)}) {
+            QVERIFY(draw(document, exitCode).isEmpty());
+            QCOMPARE(exitCode, 2);
+        }
+        QCOMPARE(QProcess::execute(PROGRAM, {QDir::tempPath()}), 2);
     }
 
     void writesAFile()

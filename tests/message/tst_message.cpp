@@ -186,9 +186,9 @@ private Q_SLOTS:
     void writesDocuments()
     {
         QList<VySmilPart> parts{
-            MessageCase::partOf("|a.jpg||image/jpeg"), MessageCase::partOf("<s@x>|é||audio/amr|700"),
-            MessageCase::partOf("|b.txt||text/plain"), MessageCase::partOf("<é>|ü||image/gif"),
-            MessageCase::partOf("|t.amr||audio/amr|0")};
+            MessageCase::partOf("|a.jpg||image/jpeg"),  MessageCase::partOf("<s@x>|é||audio/amr|700"),
+            MessageCase::partOf("|b.txt||text/plain"),  MessageCase::partOf("<é>|ü||image/gif"),
+            MessageCase::partOf("|t.amr||audio/amr|0"), MessageCase::partOf("|u.amr||audio/amr|6000")};
         VySmilSlideShow show = VySmilSlideShow::fromParts(parts);
         show.slides[0].durationMs = 1'000;
         show.slides[0].media[0].beginMs = 300;
@@ -196,6 +196,7 @@ private Q_SLOTS:
         show.slides[1].media[0].rect = QRect(10, 300, 400, 400);
         show.slides[1].media[0].fit = "slice";
         show.slides[1].durationMs = 0;
+        show.slides[2].durationMs = show.slides[2].media[0].endMs = 5'000;
         VySmilElemSmil root;
         root.setAttribute("id", "kept");
         root.getSubElements()->append(new VySmilElemBody);
@@ -206,7 +207,8 @@ private Q_SLOTS:
                                  "region[fit=slice height=180 id=Image2 left=10 top=300 width=310])) "
                                  "body(par[dur=1000ms](img[begin=300ms end=700ms region=Image src=a.jpg] "
                                  "audio[end=700ms src=cid:s@x] text[end=700ms region=Text src=b.txt]) "
-                                 "par[dur=5000ms](img[region=Image2 src=cid:%C3%A9] audio[src=t.amr])))");
+                                 "par[dur=5000ms](img[region=Image2 src=cid:%C3%A9] audio[src=t.amr]) "
+                                 "par[dur=5000ms](audio[src=u.amr])))");
         show.toTree(nullptr, parts);
     }
 

@@ -291,6 +291,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         const QStringList tags{
             "<a b='1'c='2'/>",
+            "<!DOCTYPE a>",
+            "<!DOCTYPE a\x10>",
             "<a b=\"1\" c='2' />",
             "<a b = '1'\n\tc\r='2'\n>",
             "<a / >",
@@ -389,6 +391,8 @@ private Q_SLOTS:
         QTest::newRow("element behind the root") << around("") + "<a/>";
         QTest::newRow("end tag behind the root") << around("") + "</smil>";
         QTest::newRow("byte order mark") << QChar(0xfeff) + around("<a/>");
+        QTest::newRow("doctype behind the root") << "<smil/><!DOCTYPE smil>";
+        QTest::newRow("two doctypes") << "<!DOCTYPE a><!DOCTYPE a><a/>";
     }
     void readsAsADomDoes()
     {

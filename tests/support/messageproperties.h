@@ -199,8 +199,8 @@ inline bool areDistinct(const QList<VySmilPart> &parts)
         for (const QString &text : {part.contentId, part.contentLocation, part.name}) {
             QString plain = QUrl::fromPercentEncoding(text.trimmed().toUtf8()).toCaseFolded();
             plain.remove(u'<').remove(u'>').remove(QStringLiteral("./")).remove(QStringLiteral("cid:"));
-            if (!plain.trimmed().isEmpty())
-                texts << plain.trimmed();
+            if (!text.trimmed().isEmpty())
+                texts << (plain.trimmed().isEmpty() ? text : plain).trimmed();
         }
         if (all.intersects(texts))
             return false;

@@ -25,11 +25,6 @@ void VySmilElemList::insert(qsizetype index, VySmilElemBase *elem)
         entries.insert(contains(index) ? index : entries.size(), elem);
 }
 
-VySmilElemBase *VySmilElemList::at(qsizetype index) const
-{
-    return contains(index) ? entries.at(index) : nullptr;
-}
-
 bool VySmilElemList::remove(qsizetype index)
 {
     VySmilElemBase *elem = take(index);

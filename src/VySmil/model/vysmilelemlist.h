@@ -36,7 +36,7 @@ public:
     void insert(qsizetype index, VySmilElemBase *elem);
 
     /// The element at \a index, or null outside the list.
-    VySmilElemBase *at(qsizetype index) const;
+    VySmilElemBase *at(qsizetype index) const { return entries.value(index); }
     /// The number of elements.
     qsizetype count() const { return entries.size(); }
     /// Whether there are none.
@@ -65,8 +65,8 @@ private:
     static void destroy(QList<VySmilElemBase *> doomed);
 
     QList<VySmilElemBase *> entries;
-    QList<VySmilElemBase *> *heir =
-        nullptr; // takes the entries over while the element of this list is deleted
+    // Takes the entries over while the element of this list is deleted.
+    QList<VySmilElemBase *> *heir = nullptr;
     bool ownsEntries = false;
 };
 

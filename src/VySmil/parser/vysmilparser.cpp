@@ -7,6 +7,8 @@
 
 #include <QXmlStreamReader>
 
+#include <utility>
+
 namespace {
 
 // Feeds what Qt's stream reader finds, set up as QDomDocument::setContent() does it. False if the text is not
@@ -16,9 +18,11 @@ bool readByQt(QStringView text, VySmilPrivate::TreeBuilder &builder)
     QXmlStreamReader reader(text.toString());
     reader.setNamespaceProcessing(false);
     std::vector<VySmilPrivate::Attribute> attributes;
+    bool mayDeclareType = true; // once, before the root; QXmlStreamReader alone minds neither
     while (!reader.atEnd()) {
         const QXmlStreamReader::TokenType token = reader.readNext();
         if (token == QXmlStreamReader::StartElement) {
+            mayDeclareType = false;
             attributes.clear();
             for (const QXmlStreamAttribute &attribute : reader.attributes())
                 attributes.push_back(
@@ -27,6 +31,8 @@ bool readByQt(QStringView text, VySmilPrivate::TreeBuilder &builder)
             builder.startElement(reader.qualifiedName(), attributes);
         } else if (token == QXmlStreamReader::EndElement) {
             builder.endElement();
+        } else if (token == QXmlStreamReader::DTD && !std::exchange(mayDeclareType, false)) {
+            return false;
         }
     }
     return !reader.hasError();

@@ -33,6 +33,11 @@ inline void collectMedia(const VySmilElemBase &elem, QList<const VySmilElemBase 
     }
 }
 
+inline bool isAscii(const QString &text)
+{
+    return text.toUtf8().size() == text.size();
+}
+
 inline bool isSmil(const VySmilPart &part)
 {
     return part.contentType.section(u';', 0, 0).trimmed().toLower() == u"application/smil";
@@ -93,8 +98,7 @@ inline bool fitsProfile(const VySmilSlideShow &show)
                 ++shown[isText];
                 places[isText] << mediumText(medium).section(u'"', -1).section(u' ', 1, 2);
             }
-            if (medium.src.trimmed().isEmpty() || medium.src != QString::fromLatin1(medium.src.toLatin1()) ||
-                medium.src.toUtf8().size() != medium.src.size() ||
+            if (medium.src.trimmed().isEmpty() || !isAscii(medium.src) ||
                 medium.kind == VySmilMedium::MEDIUM_OTHER || !fits.contains(medium.fit.trimmed()))
                 return false;
         }
@@ -228,7 +232,7 @@ inline QString brokenInParts(const QList<VySmilPart> &brought)
         for (const VySmilMedium &medium : slide.media) {
             seen << medium.part;
             references << medium.src.toCaseFolded();
-            if (medium.src.isEmpty() || medium.src.toUtf8().size() != medium.src.size())
+            if (medium.src.isEmpty() || !isAscii(medium.src))
                 return QStringLiteral("a reference that is not in ASCII: ") + medium.src;
         }
     }

@@ -28,7 +28,7 @@ struct Document
     VySmilElemSmil root;
     int result = VySmil::RESULT_OK;
     VySmil::STATUS_CODE status = VySmil::STATUS_OK;
-    VySmilSlideShow slides;
+    VySmilSlideShow slides;        ///< if they were asked for
     QList<VySmilFinding> findings; ///< of the check, if there was one
 };
 
@@ -37,8 +37,6 @@ QString inWords(VySmil::STATUS_CODE status);
 /// What kind of value the library reads an attribute of this name as.
 bool holdsLength(const QString &attribute);
 bool holdsTime(const QString &attribute);
-/// "image", "text", "audio", "video" or "other".
-QString nameOf(VySmilMedium::MEDIUM_KIND kind);
 /// "size", "region", "time" and "part".
 QStringList namesOf(VySmilMedium::GUESSES guesses);
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the VySmil authors
 // SPDX-License-Identifier: MIT
 
+#include "../kindname.h"
 #include "inform.h"
 
 #include <QJsonArray>
@@ -56,11 +57,14 @@ QJsonArray guesses(VySmilMedium::GUESSES flags)
 
 QJsonObject medium(const VySmilMedium &medium)
 {
-    QJsonObject object{
-        {QStringLiteral("kind"), nameOf(medium.kind)}, {QStringLiteral("src"), medium.src},
-        {QStringLiteral("alt"), medium.alt},           {QStringLiteral("region"), medium.region},
-        {QStringLiteral("fit"), medium.fit},           {QStringLiteral("beginMs"), medium.beginMs},
-        {QStringLiteral("endMs"), medium.endMs},       {QStringLiteral("guesses"), guesses(medium.guesses)}};
+    QJsonObject object{{QStringLiteral("kind"), kindName(medium.kind)},
+                       {QStringLiteral("src"), medium.src},
+                       {QStringLiteral("alt"), medium.alt},
+                       {QStringLiteral("region"), medium.region},
+                       {QStringLiteral("fit"), medium.fit},
+                       {QStringLiteral("beginMs"), medium.beginMs},
+                       {QStringLiteral("endMs"), medium.endMs},
+                       {QStringLiteral("guesses"), guesses(medium.guesses)}};
     if (!medium.rect.isNull())
         object[QStringLiteral("rect")] =
             QJsonArray{medium.rect.x(), medium.rect.y(), medium.rect.width(), medium.rect.height()};

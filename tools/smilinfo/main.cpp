@@ -37,7 +37,8 @@ Outcome inform(QTextStream &out, QTextStream &err, const QString &path, const Wi
         VySmilParser::parse(*text, &document.root, wishes.strict, &document.status, VySmil::SMIL_VER_DEFAULT);
     if (document.result == VySmil::RESULT_MALFORMED || document.result == VySmil::RESULT_UNUSABLE)
         return unreadable(inWords(document.result));
-    document.slides.fromTree(document.root);
+    if (wishes.slides || wishes.json)
+        document.slides.fromTree(document.root);
     if (wishes.level)
         document.findings = VySmilConformance::check(document.root, *wishes.level);
     if (wishes.json)

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the VySmil authors
 // SPDX-License-Identifier: MIT
 
+#include "../kindname.h"
 #include "inform.h"
 
 QString inWords(int result)
@@ -44,12 +45,6 @@ bool holdsTime(const QString &attribute)
 {
     static const QStringList times{QStringLiteral("begin"), QStringLiteral("end"), QStringLiteral("dur")};
     return times.contains(attribute);
-}
-
-QString nameOf(VySmilMedium::MEDIUM_KIND kind)
-{
-    static const char *const names[] = {"image", "text", "audio", "video", "other"};
-    return QString::fromLatin1(names[kind]);
 }
 
 QStringList namesOf(VySmilMedium::GUESSES guesses)
@@ -146,7 +141,7 @@ void printSlides(QTextStream &out, const VySmilSlideShow &show)
         const VySmilSlide &slide = show.slides.at(i);
         out << "  slide " << i + 1 << ": " << slide.durationMs << " ms" << guessed(slide.guesses) << '\n';
         for (const VySmilMedium &medium : slide.media) {
-            out << "    " << nameOf(medium.kind) << " \"" << medium.src << "\" from " << medium.beginMs
+            out << "    " << kindName(medium.kind) << " \"" << medium.src << "\" from " << medium.beginMs
                 << " to " << medium.endMs << " ms";
             const QRect &rect = medium.rect;
             if (!rect.isNull())

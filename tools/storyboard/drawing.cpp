@@ -3,6 +3,8 @@
 
 #include "drawing.h"
 
+#include "../kindname.h"
+
 #include <QXmlStreamWriter>
 
 #include <algorithm>
@@ -67,12 +69,6 @@ QString elided(const QString &text, double width)
     while (left + right > 0 && widthOf(joined()) > width)
         --(left > right ? left : right);
     return isolated(joined());
-}
-
-QString kindName(const VySmilMedium &medium)
-{
-    static const char *const names[] = {"image", "text", "audio", "video", "other"};
-    return QString::fromLatin1(names[medium.kind]);
 }
 
 QString nameOf(const VySmilMedium &medium)
@@ -290,7 +286,7 @@ void Drawing::drawMedium(const VySmilMedium &medium, const QString &clip, int li
     start("g", {{"transform", QStringLiteral("translate(%1 %2)")
                                   .arg(number(medium.rect.x() * scale), number(medium.rect.y() * scale))}});
     const bool isGuessed = medium.guesses.testFlag(VySmilMedium::GUESS_REGION);
-    element("rect", {{"class", QStringLiteral("medium ") + kindName(medium) +
+    element("rect", {{"class", QStringLiteral("medium ") + kindName(medium.kind) +
                                    (isGuessed ? QStringLiteral(" guessed") : QString())},
                      {"width", number(width)},
                      {"height", number(height)},
@@ -330,7 +326,7 @@ double Drawing::drawTrack(const VySmilMedium &medium, const VySmilSlide &slide, 
                      {"width", number(cardWidth)},
                      {"height", number(barHeight)}});
     const bool isGuessed = medium.guesses.testFlag(VySmilMedium::GUESS_TIME);
-    element("rect", {{"class", QStringLiteral("bar ") + kindName(medium) +
+    element("rect", {{"class", QStringLiteral("bar ") + kindName(medium.kind) +
                                    (isGuessed ? QStringLiteral(" guessed") : QString())},
                      {"x", number(at(medium.beginMs))},
                      {"y", number(y)},
@@ -343,6 +339,13 @@ void Drawing::drawTicks(const VySmilSlide &slide, double top)
 {
     const double y = top - lineHeight + 2;
     const QString last = seconds(slide.durationMs) + QStringLiteral(" s");
+    const auto tick = [this, y](double x) {
+        element("line", {{"class", QStringLiteral("tick")},
+                         {"x1", number(x)},
+                         {"x2", number(x)},
+                         {"y1", number(y)},
+                         {"y2", number(y + 4)}});
+    };
     // At most five, each at a round number of seconds.
     double step = std::pow(10, std::floor(std::log10(slide.durationMs)));
     while (slide.durationMs / step > 5)
@@ -352,20 +355,12 @@ void Drawing::drawTicks(const VySmilSlide &slide, double top)
     for (int i = 0; i * step < slide.durationMs; ++i) {
         const double ms = i * step;
         const double x = ms / slide.durationMs * cardWidth;
-        element("line", {{"class", QStringLiteral("tick")},
-                         {"x1", number(x)},
-                         {"x2", number(x)},
-                         {"y1", number(y)},
-                         {"y2", number(y + 4)}});
+        tick(x);
         const QString label = QString::number(ms / 1'000, 'g', 10);
         if (x + widthOf(label) < cardWidth - widthOf(last))
             text(x, y + lineHeight, label, "faint", i > 0 ? "middle" : "start");
     }
-    element("line", {{"class", QStringLiteral("tick")},
-                     {"x1", number(cardWidth)},
-                     {"x2", number(cardWidth)},
-                     {"y1", number(y)},
-                     {"y2", number(y + 4)}});
+    tick(cardWidth);
     text(cardWidth, y + lineHeight, last, "faint", "end");
 }
 

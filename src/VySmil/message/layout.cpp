@@ -15,10 +15,8 @@ std::optional<double> pixels(const VySmilElemBase &elem, const QString &name, in
     const auto length = VySmilPrivate::readLength(elem, name);
     if (!length)
         return std::nullopt;
-    const double number = length->unit == VySmil::UNIT_PIXELS
-                              ? length->value.pixels
-                              : static_cast<double>(length->value.percent) * whole / 100;
-    return std::clamp<double>(number, -VySmilPrivate::maxLength, VySmilPrivate::maxLength);
+    return std::clamp<double>(VySmilPrivate::numberOf(*length, whole), -VySmilPrivate::maxLength,
+                              VySmilPrivate::maxLength);
 }
 
 // Whether a medium has a place even where no region gives it one.
@@ -34,6 +32,13 @@ namespace VySmilPrivate {
 int rounded(double number)
 {
     return static_cast<int>(std::floor(number + 0.5));
+}
+
+double numberOf(const VySmil::VyLength &length, double hundredPercent)
+{
+    return length.unit == VySmil::UNIT_PIXELS
+               ? length.value.pixels
+               : static_cast<double>(length.value.percent) * hundredPercent / 100;
 }
 
 std::optional<VySmil::VyLength> readLength(const VySmilElemBase &elem, const QString &name)

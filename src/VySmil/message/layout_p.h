@@ -52,6 +52,9 @@ VySmilSlideShowOptions withDefaults(VySmilSlideShowOptions options);
 /// The attribute \a name as a length, if it reads as one.
 std::optional<VySmil::VyLength> readLength(const VySmilElemBase &elem, const QString &name);
 
+/// What a length comes to where \a hundredPercent is all there is.
+double numberOf(const VySmil::VyLength &length, double hundredPercent);
+
 /// To the nearest whole number, half up.
 int rounded(double number);
 

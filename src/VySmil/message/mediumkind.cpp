@@ -4,6 +4,8 @@
 #include <VySmil/message/mediumkind_p.h>
 #include <VySmil/model/vysmilelembase.h>
 
+#include <algorithm>
+
 namespace VySmilPrivate {
 
 static QString mimeType(const VySmilPart &part)
@@ -70,6 +72,11 @@ int sortsOf(VySmilMedium::MEDIUM_KIND kind)
     default:
         return 0;
     }
+}
+
+qint32 knownLength(VySmilMedium::MEDIUM_KIND kind, const QList<VySmilPart> &parts, int part)
+{
+    return part >= 0 && (sortsOf(kind) & SORT_SOUND) != 0 ? std::max(0, parts.at(part).durationMs) : 0;
 }
 
 } // namespace VySmilPrivate

@@ -37,6 +37,10 @@ enum Sort {
 /// What a medium takes up of a slide, as a sum: a video has sound too.
 int sortsOf(VySmilMedium::MEDIUM_KIND kind);
 
+/// How long a medium of this kind, with \a part of \a parts, or -1, is known to play, in milliseconds; 0
+/// where that is not known, and for what has no sound.
+qint32 knownLength(VySmilMedium::MEDIUM_KIND kind, const QList<VySmilPart> &parts, int part);
+
 } // namespace VySmilPrivate
 
 #endif

@@ -13,7 +13,7 @@
 #include <QSet>
 
 #include <algorithm>
-#include <array>
+#include <tuple>
 
 namespace {
 
@@ -430,11 +430,7 @@ void Checker::checkRegionPlace(const VySmilElemBase &region, const QString &from
         return length && length->unit == unit;
     };
     const auto numberOf = [](const std::optional<VySmil::VyLength> &length, double hundredPercent) {
-        if (!length)
-            return 0.0;
-        return length->unit == VySmil::UNIT_PIXELS
-                   ? length->value.pixels
-                   : static_cast<double>(length->value.percent) * hundredPercent / 100;
+        return length ? VySmilPrivate::numberOf(*length, hundredPercent) : 0.0;
     };
     const auto wrong = [this](const QString &message) {
         find(VySmilFinding::RULE_REGION_PLACE, error, warning, QString(), message);

@@ -158,9 +158,9 @@ Times Reader::readTimes(const VySmilPrivate::MediumElement &source, VySmilMedium
         times.end = end.ms;
     if (dur.isKnown && times.begin)
         times.end = std::min(*times.begin + dur.ms, times.end.value_or(*times.begin + dur.ms));
-    const bool hasLength = (VySmilPrivate::sortsOf(medium.kind) & VySmilPrivate::SORT_SOUND) != 0;
-    if (!times.end && times.begin && hasLength && medium.part >= 0 && parts.at(medium.part).durationMs > 0)
-        times.end = *times.begin + parts.at(medium.part).durationMs;
+    const qint32 length = VySmilPrivate::knownLength(medium.kind, parts, medium.part);
+    if (!times.end && times.begin && length > 0)
+        times.end = *times.begin + length;
     return times;
 }
 

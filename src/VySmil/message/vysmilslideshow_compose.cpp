@@ -204,11 +204,8 @@ bool Writer::endsWith(const VySmilMedium &medium, const QString &src, qint32 dur
 {
     const int part = index.find(src);
     const auto kind = part < 0 ? std::nullopt : VySmilPrivate::kindOfPart(parts.at(part));
-    const bool hasLength =
-        part >= 0 && parts.at(part).durationMs > 0 &&
-        (VySmilPrivate::sortsOf(kind.value_or(medium.kind)) & VySmilPrivate::SORT_SOUND) != 0;
-    const qint64 lengthEnd =
-        hasLength ? qint64(std::max(0, medium.beginMs)) + parts.at(part).durationMs : durationMs;
+    const qint32 length = VySmilPrivate::knownLength(kind.value_or(medium.kind), parts, part);
+    const qint64 lengthEnd = length > 0 ? qint64(std::max(0, medium.beginMs)) + length : durationMs;
     return medium.endMs == durationMs && lengthEnd >= durationMs;
 }
 
@@ -285,8 +282,7 @@ VySmilSlideShow VySmilSlideShow::fromParts(QList<VySmilPart> &parts, const VySmi
     for (VySmilSlide &slide : show.slides) {
         VySmilPrivate::placeByDefault(slide.media, show.size);
         const auto lengthOf = [&parts](const VySmilMedium &medium) {
-            const bool hasSound = (VySmilPrivate::sortsOf(medium.kind) & VySmilPrivate::SORT_SOUND) != 0;
-            return hasSound ? parts.at(medium.part).durationMs : 0;
+            return VySmilPrivate::knownLength(medium.kind, parts, medium.part);
         };
         for (const VySmilMedium &medium : std::as_const(slide.media))
             slide.durationMs = std::max(slide.durationMs, lengthOf(medium));

@@ -49,9 +49,8 @@ private Q_SLOTS:
                 root.setAttribute("old", "1");
                 VySmil::STATUS_CODE status = VySmil::STATUS_INVALID_ATTR;
                 allocationsLeft = allocations;
-                const int result =
-                    VySmilParser::parse(start + "<head><layout/></head><body><foo/></body></smil>", &root,
-                                        strict, &status, VySmil::SMIL_VER_DEFAULT);
+                const int result = VySmilParser::parse(
+                    start + "<head><layout/></head><body><foo/></body></smil>", &root, strict, &status);
                 allocationsLeft = -1;
                 QCOMPARE(result, int(VySmil::RESULT_NO_OBJECT));
                 QCOMPARE(status, VySmil::STATUS_OK);
@@ -64,8 +63,7 @@ private Q_SLOTS:
     void copyingGoesOn()
     {
         VySmilElemSmil root;
-        VySmilParser::parse("<smil><head><layout/></head><body><par/></body></smil>", &root, true, nullptr,
-                            VySmil::SMIL_VER_DEFAULT);
+        VySmilParser::parse("<smil><head><layout/></head><body><par/></body></smil>", &root, true);
         allocationsLeft = 1;
         const VySmilElemSmil copy(root);
         allocationsLeft = -1;

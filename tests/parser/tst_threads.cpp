@@ -37,7 +37,7 @@ private:
         QString text;
         for (int i = 0; i < 200; ++i) {
             VySmilElemSmil root;
-            VySmilParser::parse(document, &root, false, nullptr, VySmil::SMIL_VER_DEFAULT);
+            VySmilParser::parse(document, &root);
             auto *region = static_cast<VySmilElemRegion *>(
                 root.getHead()->getSubElements()->at(0)->getSubElement(0, ""));
             VySmil::VyLength width;
@@ -50,7 +50,7 @@ private:
             par->getSubElements()->append(VySmilElemBase::newElem("text"));
             const VySmilElemSmil copy(root);
             text.clear();
-            VySmilParser::assemble(&copy, text, false, nullptr, VySmil::SMIL_VER_DEFAULT);
+            VySmilParser::assemble(&copy, text);
         }
         return text;
     }

@@ -4,8 +4,11 @@
 #include <VySmil/model/treebuilder_p.h>
 #include <VySmil/model/vocabulary_p.h>
 
+#include <QMap>
+
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace VySmilPrivate {
 
@@ -15,56 +18,56 @@ void sortByName(std::vector<Attribute> &attributes)
               [](const Attribute &a, const Attribute &b) { return a.name < b.name; });
 }
 
-TreeBuilder::TreeBuilder(const VySmilElemBase &root, bool strict, VySmil::SMIL_VERSION smilVersion)
-    : asked(root), isStrict(strict), version(smilVersion)
+TreeBuilder::TreeBuilder(const VySmilElemBase &root, bool strict, VySmil::SMIL_VERSION version)
+    : m_asked(root), m_isStrict(strict), m_version(version)
 {
 }
 
 void TreeBuilder::startElement(QStringView tag, std::vector<Attribute> &attributes)
 {
-    if (result != VySmil::RESULT_OK)
+    if (m_result != VySmil::RESULT_OK)
         return;
-    if (path.empty()) {
-        result = readTag(asked, read, tag, attributes);
-        path.push_back(&read);
+    if (m_path.empty()) {
+        m_result = readTag(m_asked, m_read, tag, attributes);
+        m_path.push_back(&m_read);
         return;
     }
-    VySmilElemBase *const parent = path.back();
+    VySmilElemBase *const parent = m_path.back();
     if (!parent) {
-        path.push_back(nullptr);
+        m_path.push_back(nullptr);
         return;
     }
     std::unique_ptr<VySmilElemBase> child(makeElem(tag));
     const int childResult =
         child ? readTag(*child, *child, tag, attributes) : static_cast<int>(VySmil::RESULT_NO_OBJECT);
-    if (childResult < 0 || (childResult > 0 && isStrict)) {
-        result = childResult;
+    if (childResult < 0 || (childResult > 0 && m_isStrict)) {
+        m_result = childResult;
         // The root keeps its complete children alone.
-        if (path.size() > 1)
-            read.getSubElements()->remove(read.getSubElements()->count() - 1);
+        if (m_path.size() > 1)
+            m_read.getSubElements()->remove(m_read.getSubElements()->count() - 1);
         return;
     }
-    path.push_back(childResult == VySmil::RESULT_OK ? child.get() : nullptr);
+    m_path.push_back(childResult == VySmil::RESULT_OK ? child.get() : nullptr);
     parent->getSubElements()->append(child.release());
 }
 
 void TreeBuilder::endElement()
 {
-    if (result == VySmil::RESULT_OK)
-        path.pop_back();
+    if (m_result == VySmil::RESULT_OK)
+        m_path.pop_back();
 }
 
 int TreeBuilder::handOver(VySmilElemBase &root, VySmil::STATUS_CODE *status)
 {
-    if (status && found != VySmil::STATUS_OK)
-        *status = found;
-    const QMap<QString, QString> attributes = read.getAttributes();
+    if (status && m_found != VySmil::STATUS_OK)
+        *status = m_found;
+    const QMap<QString, QString> attributes = m_read.getAttributes();
     for (auto it = attributes.begin(); it != attributes.end(); ++it)
         root.setAttribute(it.key(), it.value());
-    read.getSubElements()->setAutoDelete(false);
-    for (VySmilElemBase *child : *read.getSubElements())
+    m_read.getSubElements()->setAutoDelete(false);
+    for (VySmilElemBase *child : *m_read.getSubElements())
         root.getSubElements()->append(child);
-    return result;
+    return m_result;
 }
 
 int TreeBuilder::readTag(const VySmilElemBase &elem, VySmilElemBase &target, QStringView tag,
@@ -73,13 +76,13 @@ int TreeBuilder::readTag(const VySmilElemBase &elem, VySmilElemBase &target, QSt
     const QString type = elem.getElemType();
     if (tag.trimmed() != type)
         return VySmil::RESULT_UNUSABLE;
-    if (const int finding = checkElement(elem, type, isStrict, &found, version))
+    if (const int finding = checkElement(elem, type, m_isStrict, &m_found, m_version))
         return finding;
     for (Attribute &attribute : attributes) {
         const QString name = attribute.name.trimmed();
-        if (const int finding = checkAttr(elem, name, isStrict, &found, version))
+        if (const int finding = checkAttr(elem, name, m_isStrict, &m_found, m_version))
             return finding;
-        const QString value = name == QLatin1String("nohref") ? name : std::move(attribute.value).trimmed();
+        const QString value = name == bareAttribute ? name : std::move(attribute.value).trimmed();
         if (!name.isEmpty() && !value.isEmpty())
             target.setAttribute(name, value);
     }

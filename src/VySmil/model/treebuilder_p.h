@@ -6,6 +6,8 @@
 
 #include <VySmil/model/vysmilelemunknown.h>
 
+#include <QString>
+
 #include <vector>
 
 namespace VySmilPrivate {
@@ -29,7 +31,7 @@ class TreeBuilder
 {
 public:
     /// Tags are checked for \a root and its subtree as VySmilElemBase::fromDomElem() says.
-    TreeBuilder(const VySmilElemBase &root, bool strict, VySmil::SMIL_VERSION smilVersion);
+    TreeBuilder(const VySmilElemBase &root, bool strict, VySmil::SMIL_VERSION version);
 
     /// The next start tag; the first is that of the root. \a attributes have names of their own, in ascending
     /// order, and lose their values. Does nothing once reading has failed.
@@ -47,13 +49,13 @@ private:
     int readTag(const VySmilElemBase &elem, VySmilElemBase &target, QStringView tag,
                 std::vector<Attribute> &attributes);
 
-    const VySmilElemBase &asked;        // the root, for its name and its checks
-    VySmilElemUnknown read;             // holds the attributes and children of the root
-    std::vector<VySmilElemBase *> path; // the open elements; null for those that are left out
-    VySmil::STATUS_CODE found = VySmil::STATUS_OK;
-    int result = VySmil::RESULT_OK;
-    const bool isStrict;
-    const VySmil::SMIL_VERSION version;
+    const VySmilElemBase &m_asked;        // the root, for its name and its checks
+    VySmilElemUnknown m_read;             // holds the attributes and children of the root
+    std::vector<VySmilElemBase *> m_path; // the open elements; null for those that are left out
+    VySmil::STATUS_CODE m_found = VySmil::STATUS_OK;
+    int m_result = VySmil::RESULT_OK;
+    const bool m_isStrict;
+    const VySmil::SMIL_VERSION m_version;
 };
 
 } // namespace VySmilPrivate

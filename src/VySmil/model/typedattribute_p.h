@@ -4,25 +4,25 @@
 #ifndef VYSMIL_TYPEDATTRIBUTE_P_H
 #define VYSMIL_TYPEDATTRIBUTE_P_H
 
-#include <QString>
+#include <VySmil/model/vocabulary_p.h>
 
 namespace VySmilPrivate {
 
-/// The attribute \a name of \a holder, an element or a group, as a value: what its text leaves when it is
+/// The attribute \a attr of \a holder, an element or a group, as a value: what its text leaves when it is
 /// read, whether it reads or not.
 template <typename Value, typename Holder>
-Value typedAttribute(const Holder &holder, const QString &name)
+Value typedAttribute(const Holder &holder, Attr attr)
 {
     Value value;
-    value.fromString(holder.getAttribute(name));
+    value.fromString(holder.getAttribute(nameOf(attr)));
     return value;
 }
 
-/// Stores the text of \a value under \a name.
+/// Stores the text of \a value as \a attr.
 template <typename Value, typename Holder>
-void setTypedAttribute(Holder &holder, const QString &name, const Value &value)
+void setTypedAttribute(Holder &holder, Attr attr, const Value &value)
 {
-    holder.setAttribute(name, value.toString());
+    holder.setAttribute(nameOf(attr), value.toString());
 }
 
 } // namespace VySmilPrivate

@@ -8,19 +8,108 @@
 
 #include <QString>
 
-#include <algorithm>
-#include <initializer_list>
-
 class VySmilElemBase;
 
 namespace VySmilPrivate {
 
-/// Whether \a name is one of \a names, which SMIL_VER_DEFAULT alone knows.
-inline bool isKnownAttr(QStringView name, VySmil::SMIL_VERSION version,
-                        std::initializer_list<QStringView> names)
+/// The elements of the vocabulary; vocabulary.cpp has a row for each. The frequent ones come first.
+enum class Elem : quint8 {
+    Par,
+    Img,
+    Text,
+    Audio,
+    Video,
+    Ref,
+    Region,
+    Meta,
+    RootLayout,
+    Layout,
+    Head,
+    Body,
+    Smil,
+    Unknown, ///< none of these
+};
+
+/// The attributes of the vocabulary; attributeRows has a row for each. The frequent ones come first.
+enum class Attr : quint8 {
+    Src,
+    Region,
+    Dur,
+    Begin,
+    End,
+    Alt,
+    Id,
+    Width,
+    Height,
+    Left,
+    Top,
+    Fit,
+    Name,
+    Content,
+    Unknown, ///< none of these
+};
+
+/// What an attribute holds.
+enum class ValueKind : quint8 { Text, Length, Time };
+
+/// What a media object is, by its element alone; the numbers are those of VySmilMedium::MEDIUM_KIND.
+enum class MediumKind : quint8 { Image, Text, Audio, Video, Other, None };
+
+struct AttributeRow
 {
-    return version == VySmil::SMIL_VER_DEFAULT && std::find(names.begin(), names.end(), name) != names.end();
+    QStringView name;
+    Attr attr;
+    ValueKind holds;
+};
+
+inline constexpr AttributeRow attributeRows[] = {
+    {u"src", Attr::Src, ValueKind::Text},         {u"region", Attr::Region, ValueKind::Text},
+    {u"dur", Attr::Dur, ValueKind::Time},         {u"begin", Attr::Begin, ValueKind::Time},
+    {u"end", Attr::End, ValueKind::Time},         {u"alt", Attr::Alt, ValueKind::Text},
+    {u"id", Attr::Id, ValueKind::Text},           {u"width", Attr::Width, ValueKind::Length},
+    {u"height", Attr::Height, ValueKind::Length}, {u"left", Attr::Left, ValueKind::Length},
+    {u"top", Attr::Top, ValueKind::Length},       {u"fit", Attr::Fit, ValueKind::Text},
+    {u"name", Attr::Name, ValueKind::Text},       {u"content", Attr::Content, ValueKind::Text},
+};
+
+/// The one attribute that is stored with its own name as its value, and written as a bare word. It is not in
+/// the vocabulary.
+inline constexpr QStringView bareAttribute = u"nohref";
+
+/// The attribute that is called exactly \a name.
+inline Attr attrOf(QStringView name) noexcept
+{
+    for (const AttributeRow &row : attributeRows) {
+        if (row.name == name)
+            return row.attr;
+    }
+    return Attr::Unknown;
 }
+
+/// What an attribute holds; text, where it is none of the vocabulary.
+constexpr ValueKind valueKindOf(Attr attr) noexcept
+{
+    return attr == Attr::Unknown ? ValueKind::Text : attributeRows[static_cast<int>(attr)].holds;
+}
+
+/// The name of an attribute of the vocabulary, to use and to store without an allocation.
+QString nameOf(Attr attr) noexcept;
+/// The name of an element of the vocabulary, likewise.
+QString nameOf(Elem elem) noexcept;
+
+/// The element that is called exactly \a name.
+Elem elemOf(QStringView name) noexcept;
+/// The element that \a elem is by its type name, whatever its class.
+Elem elemOf(const VySmilElemBase &elem);
+
+/// Whether an element of the vocabulary accepts the attribute \a name under \a version.
+bool takes(Elem elem, QStringView name, VySmil::SMIL_VERSION version) noexcept;
+/// Whether it accepts \a attr under the version that is known.
+bool takes(Elem elem, Attr attr) noexcept;
+/// Whether the profile lets \a parent hold \a child.
+bool mayHold(Elem parent, Elem child) noexcept;
+/// What kind of media object an element is, if it is one.
+MediumKind mediumKindOf(Elem elem) noexcept;
 
 /// The checks of reading and writing. A finding goes to \a status unless that is null; the result is
 /// RESULT_OK, or in a strict run that of the finding.
@@ -29,11 +118,13 @@ int checkElement(const VySmilElemBase &elem, const QString &type, bool strict, V
 int checkAttr(const VySmilElemBase &elem, const QString &name, bool strict, VySmil::STATUS_CODE *status,
               VySmil::SMIL_VERSION version);
 
-/// The string of an attribute name. The names of the vocabulary share a literal each.
-QString attributeName(QStringView name);
+/// The text of a name that stands in a document. The names of the vocabulary cost no allocation.
+QString interned(QStringView name);
 
 /// What VySmilElemBase::newElem() gives for \a name.
 VySmilElemBase *makeElem(QStringView name);
+/// The same for the name of \a elem, which is one of the vocabulary.
+VySmilElemBase *makeElem(Elem elem);
 
 /// Whether the class of \a elem, whose type name is \a type, is one that newElem() makes, and not one that a
 /// client derived.

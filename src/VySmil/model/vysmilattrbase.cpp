@@ -4,6 +4,8 @@
 #include <VySmil/model/vysmilattrbase.h>
 #include <VySmil/model/vysmilelembase.h>
 
+VySmilAttrBase::VySmilAttrBase() noexcept = default;
+
 VySmilAttrBase::~VySmilAttrBase()
 {
     refElem = nullptr;

@@ -20,17 +20,17 @@ class VYSMIL_EXPORT VySmilAttrBase : public VySmilBase
 {
 public:
     /// A group without an element.
-    VySmilAttrBase() = default;
+    VySmilAttrBase() noexcept;
     ~VySmilAttrBase() override;
     Q_DISABLE_COPY_MOVE(VySmilAttrBase)
 
     /// The element whose attributes the group reads and writes, or null.
-    VySmilElemBase *getRefElem() const { return refElem; }
+    [[nodiscard]] VySmilElemBase *getRefElem() const noexcept { return refElem; }
     /// Makes the group a view on \a elem, which it does not own.
-    void setRefElem(VySmilElemBase *elem) { refElem = elem; }
+    void setRefElem(VySmilElemBase *elem) noexcept { refElem = elem; }
 
     /// The same as VySmilElemBase::getAttribute() on the element.
-    QString getAttribute(const QString &name) const;
+    [[nodiscard]] QString getAttribute(const QString &name) const;
     /// The same as VySmilElemBase::setAttribute() on the element.
     void setAttribute(const QString &name, const QString &value);
     /// The same as VySmilElemBase::rmAttribute() on the element.

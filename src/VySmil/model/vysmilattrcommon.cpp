@@ -1,19 +1,29 @@
 // SPDX-FileCopyrightText: 2026 the VySmil authors
 // SPDX-License-Identifier: MIT
 
+#include <VySmil/model/vocabulary_p.h>
 #include <VySmil/model/vysmilattrcommon.h>
 
-bool VySmilAttrCommon::isValidAttr(const QString &name, VySmil::SMIL_VERSION) const
+using namespace VySmilPrivate;
+
+VySmilAttrCommon::VySmilAttrCommon(VySmilElemBase *elem) noexcept
 {
-    return name == QLatin1String("id");
+    setRefElem(elem);
+}
+
+VySmilAttrCommon::~VySmilAttrCommon() = default;
+
+bool VySmilAttrCommon::isValidAttr(const QString &name, VySmil::SMIL_VERSION) const noexcept
+{
+    return name == nameOf(Attr::Id);
 }
 
 QString VySmilAttrCommon::getId() const
 {
-    return getAttribute(QStringLiteral("id"));
+    return getAttribute(nameOf(Attr::Id));
 }
 
 void VySmilAttrCommon::setId(const QString &id)
 {
-    setAttribute(QStringLiteral("id"), id);
+    setAttribute(nameOf(Attr::Id), id);
 }

@@ -14,13 +14,14 @@ class VYSMIL_EXPORT VySmilAttrCommon : public VySmilAttrBase
 {
 public:
     /// The group of \a elem.
-    explicit VySmilAttrCommon(VySmilElemBase *elem) { setRefElem(elem); }
+    explicit VySmilAttrCommon(VySmilElemBase *elem) noexcept;
+    ~VySmilAttrCommon() override;
 
     /// Whether \a name belongs to the group, under any version.
-    bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const;
+    [[nodiscard]] bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const noexcept;
 
     /// The identifier, empty if there is none.
-    QString getId() const;
+    [[nodiscard]] QString getId() const;
     /// Stores \a id unchanged.
     void setId(const QString &id);
 };

@@ -1,19 +1,29 @@
 // SPDX-FileCopyrightText: 2026 the VySmil authors
 // SPDX-License-Identifier: MIT
 
+#include <VySmil/model/vocabulary_p.h>
 #include <VySmil/model/vysmilattrmedia.h>
 
-bool VySmilAttrMedia::isValidAttr(const QString &name, VySmil::SMIL_VERSION) const
+using namespace VySmilPrivate;
+
+VySmilAttrMedia::VySmilAttrMedia(VySmilElemBase *elem) noexcept
 {
-    return name == QLatin1String("src");
+    setRefElem(elem);
+}
+
+VySmilAttrMedia::~VySmilAttrMedia() = default;
+
+bool VySmilAttrMedia::isValidAttr(const QString &name, VySmil::SMIL_VERSION) const noexcept
+{
+    return name == nameOf(Attr::Src);
 }
 
 QString VySmilAttrMedia::getSrc() const
 {
-    return getAttribute(QStringLiteral("src"));
+    return getAttribute(nameOf(Attr::Src));
 }
 
 void VySmilAttrMedia::setSrc(const QString &src)
 {
-    setAttribute(QStringLiteral("src"), src);
+    setAttribute(nameOf(Attr::Src), src);
 }

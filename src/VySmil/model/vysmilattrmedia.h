@@ -14,13 +14,14 @@ class VYSMIL_EXPORT VySmilAttrMedia : public VySmilAttrBase
 {
 public:
     /// The group of \a elem.
-    explicit VySmilAttrMedia(VySmilElemBase *elem) { setRefElem(elem); }
+    explicit VySmilAttrMedia(VySmilElemBase *elem) noexcept;
+    ~VySmilAttrMedia() override;
 
     /// Whether \a name belongs to the group, under any version.
-    bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const;
+    [[nodiscard]] bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const noexcept;
 
     /// The location of the media, empty if there is none.
-    QString getSrc() const;
+    [[nodiscard]] QString getSrc() const;
     /// Stores \a src unchanged.
     void setSrc(const QString &src);
 };

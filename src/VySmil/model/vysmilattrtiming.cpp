@@ -4,37 +4,46 @@
 #include <VySmil/model/typedattribute_p.h>
 #include <VySmil/model/vysmilattrtiming.h>
 
-bool VySmilAttrTiming::isValidAttr(const QString &name, VySmil::SMIL_VERSION) const
+using namespace VySmilPrivate;
+
+VySmilAttrTiming::VySmilAttrTiming(VySmilElemBase *elem) noexcept
 {
-    return name == QLatin1String("begin") || name == QLatin1String("end") || name == QLatin1String("dur");
+    setRefElem(elem);
+}
+
+VySmilAttrTiming::~VySmilAttrTiming() = default;
+
+bool VySmilAttrTiming::isValidAttr(const QString &name, VySmil::SMIL_VERSION) const noexcept
+{
+    return valueKindOf(attrOf(name)) == ValueKind::Time;
 }
 
 VySmil::VyTime VySmilAttrTiming::getBegin() const
 {
-    return VySmilPrivate::typedAttribute<VySmil::VyTime>(*this, QStringLiteral("begin"));
+    return typedAttribute<VySmil::VyTime>(*this, Attr::Begin);
 }
 
 void VySmilAttrTiming::setBegin(const VySmil::VyTime &time)
 {
-    VySmilPrivate::setTypedAttribute(*this, QStringLiteral("begin"), time);
+    setTypedAttribute(*this, Attr::Begin, time);
 }
 
 VySmil::VyTime VySmilAttrTiming::getEnd() const
 {
-    return VySmilPrivate::typedAttribute<VySmil::VyTime>(*this, QStringLiteral("end"));
+    return typedAttribute<VySmil::VyTime>(*this, Attr::End);
 }
 
 void VySmilAttrTiming::setEnd(const VySmil::VyTime &time)
 {
-    VySmilPrivate::setTypedAttribute(*this, QStringLiteral("end"), time);
+    setTypedAttribute(*this, Attr::End, time);
 }
 
 VySmil::VyTime VySmilAttrTiming::getDur() const
 {
-    return VySmilPrivate::typedAttribute<VySmil::VyTime>(*this, QStringLiteral("dur"));
+    return typedAttribute<VySmil::VyTime>(*this, Attr::Dur);
 }
 
 void VySmilAttrTiming::setDur(const VySmil::VyTime &time)
 {
-    VySmilPrivate::setTypedAttribute(*this, QStringLiteral("dur"), time);
+    setTypedAttribute(*this, Attr::Dur, time);
 }

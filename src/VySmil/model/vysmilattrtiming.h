@@ -19,21 +19,22 @@ class VYSMIL_EXPORT VySmilAttrTiming : public VySmilAttrBase
 {
 public:
     /// The group of \a elem.
-    explicit VySmilAttrTiming(VySmilElemBase *elem) { setRefElem(elem); }
+    explicit VySmilAttrTiming(VySmilElemBase *elem) noexcept;
+    ~VySmilAttrTiming() override;
 
     /// Whether \a name belongs to the group, under any version.
-    bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const;
+    [[nodiscard]] bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const noexcept;
 
     /// When the element begins.
-    VySmil::VyTime getBegin() const;
+    [[nodiscard]] VySmil::VyTime getBegin() const;
     /// Stores the text of \a time.
     void setBegin(const VySmil::VyTime &time);
     /// When the element ends at the latest.
-    VySmil::VyTime getEnd() const;
+    [[nodiscard]] VySmil::VyTime getEnd() const;
     /// Stores the text of \a time.
     void setEnd(const VySmil::VyTime &time);
     /// How long the element lasts.
-    VySmil::VyTime getDur() const;
+    [[nodiscard]] VySmil::VyTime getDur() const;
     /// Stores the text of \a time.
     void setDur(const VySmil::VyTime &time);
 };

@@ -3,4 +3,10 @@
 
 #include <VySmil/model/vysmilbase.h>
 
+VySmilBase::VySmilBase() noexcept = default;
+
+VySmilBase::VySmilBase(const VySmilBase &) noexcept = default;
+
+VySmilBase &VySmilBase::operator=(const VySmilBase &) noexcept = default;
+
 VySmilBase::~VySmilBase() = default;

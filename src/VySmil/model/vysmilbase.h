@@ -10,14 +10,14 @@
 class VYSMIL_EXPORT VySmilBase
 {
 public:
-    VySmilBase() = default;
+    VySmilBase() noexcept;
     virtual ~VySmilBase();
 
 protected:
     /// Derived classes say whether they can be copied.
-    VySmilBase(const VySmilBase &) = default;
+    VySmilBase(const VySmilBase &other) noexcept;
     /// Derived classes say whether they can be assigned.
-    VySmilBase &operator=(const VySmilBase &) = default;
+    VySmilBase &operator=(const VySmilBase &other) noexcept;
 };
 
 #endif

@@ -83,7 +83,9 @@ void VySmilElemBase::setAttribute(const QString &name, const QString &value)
 
 void VySmilElemBase::rmAttribute(const QString &name)
 {
-    attributes.removeIf([&name](const auto &attribute) { return attribute.first == name; });
+    const auto place = std::lower_bound(attributes.begin(), attributes.end(), name, isBefore);
+    if (place != attributes.end() && place->first == name)
+        attributes.erase(place);
 }
 
 QMap<QString, QString> VySmilElemBase::getAttributes() const
@@ -94,7 +96,7 @@ QMap<QString, QString> VySmilElemBase::getAttributes() const
     return map;
 }
 
-unsigned int VySmilElemBase::getSubElementsCount() const
+unsigned int VySmilElemBase::getSubElementsCount() const noexcept
 {
     return static_cast<unsigned int>(subElements.count());
 }
@@ -133,15 +135,17 @@ void VySmilElemBase::clearSubElements()
 
 void VySmilElemBase::setSubElements(const VySmilElemList &list)
 {
+    VySmilElemList dropped; // cleared at the very end, since list may be that of a child
     if (&list != &subElements) {
-        const QList<VySmilElemBase *> entries(list.begin(), list.end());
+        dropped.setAutoDelete(subElements.autoDelete());
         const QSet<VySmilElemBase *> kept(list.begin(), list.end());
-        for (qsizetype i = subElements.count() - 1; i >= 0; --i) {
-            if (kept.contains(subElements.at(i)))
-                subElements.take(i);
+        for (VySmilElemBase *child : subElements) {
+            if (!kept.contains(child))
+                dropped.append(child);
         }
+        subElements.setAutoDelete(false);
         subElements.clear();
-        for (VySmilElemBase *elem : entries)
+        for (VySmilElemBase *elem : list)
             subElements.append(elem);
     }
     subElements.setAutoDelete(true);

@@ -8,10 +8,17 @@
 #include <VySmil/model/vysmilelemlist.h>
 #include <VySmil/vysmil.h>
 
+#include <QList>
 #include <QMap>
 #include <QString>
 
+#include <utility>
+
 class QDomElement;
+
+namespace VySmilPrivate {
+class AttributeView;
+}
 
 /// One element of a SMIL document: a type name, attributes held as text, and an ordered list of sub-elements.
 ///
@@ -42,10 +49,10 @@ public:
     virtual void copyFrom(const VySmilElemBase &other);
 
     /// The element's name: fixed by the class, but for VySmilElemUnknown.
-    virtual QString getElemType() const = 0;
+    [[nodiscard]] virtual QString getElemType() const = 0;
 
     /// Whether the element accepts an attribute called exactly \a name, untrimmed, under \a version.
-    virtual bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const = 0;
+    [[nodiscard]] virtual bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const = 0;
 
     /// Appends the text of the element and its subtree: a line per tag, attributes in name order.
     ///
@@ -85,30 +92,32 @@ public:
                             VySmil::SMIL_VERSION version);
 
     /// The value stored under \a name, or an empty (not null) string.
-    QString getAttribute(const QString &name) const;
+    [[nodiscard]] QString getAttribute(const QString &name) const;
     /// Stores \a value under \a name, unchanged and unchecked.
     void setAttribute(const QString &name, const QString &value);
     /// Removes \a name and its value, if present.
     void rmAttribute(const QString &name);
     /// A copy of all attributes, in ascending order of their names: the order in which they are written.
-    QMap<QString, QString> getAttributes() const;
+    [[nodiscard]] QMap<QString, QString> getAttributes() const;
 
     /// The number of children.
-    unsigned int getSubElementsCount() const;
+    [[nodiscard]] unsigned int getSubElementsCount() const noexcept;
     /// The number of children whose type name is exactly \a name, also where that is empty.
-    unsigned int getSubElementCounts(const QString &name) const;
+    [[nodiscard]] unsigned int getSubElementCounts(const QString &name) const;
     /// The child at position \a index among those whose type name is \a name, where an empty \a name stands
-    /// for all children. Null if there is none. The child stays owned by the tree.
-    VySmilElemBase *getSubElement(unsigned int index, const QString &name) const;
+    /// for all children. Null if there is none. The child stays owned by the tree, and can be changed, also
+    /// where this element is const.
+    [[nodiscard]] VySmilElemBase *getSubElement(unsigned int index, const QString &name) const;
     /// Deletes the child that getSubElement() finds. False if there is none.
     bool rmSubElement(unsigned int index, const QString &name);
     /// Deletes all children.
     void clearSubElements();
 
     /// The element's own list: what the caller changes in it, the element sees.
-    VySmilElemList *getSubElements() { return &subElements; }
-    /// The same to look at.
-    const VySmilElemList *getSubElements() const { return &subElements; }
+    [[nodiscard]] VySmilElemList *getSubElements() noexcept { return &subElements; }
+    /// The same to look at. That the list does not change is all that is promised: a const element does not
+    /// make its children const.
+    [[nodiscard]] const VySmilElemList *getSubElements() const noexcept { return &subElements; }
     /// Replaces the children by the entries of \a list, which the element owns from then on: whoever owns
     /// \a list must not let it delete them. Entries that are children already stay alive.
     void setSubElements(const VySmilElemList &list);
@@ -116,15 +125,17 @@ public:
     /// A new element of the class that fits \a name, in any letter case and with blanks around it; a
     /// VySmilElemUnknown that bears \a name unchanged if none fits. Null only if the heap is exhausted.
     /// The caller owns it.
-    static VySmilElemBase *newElem(const QString &name);
+    [[nodiscard]] static VySmilElemBase *newElem(const QString &name);
 
     /// Whether \a name is exactly an element name of \a version, whatever this element is.
-    bool isValidElement(const QString &name, VySmil::SMIL_VERSION version) const;
+    [[nodiscard]] bool isValidElement(const QString &name, VySmil::SMIL_VERSION version) const noexcept;
 
 protected:
     QString elemType; ///< the type name, for a class that has no fixed one
 
 private:
+    friend class VySmilPrivate::AttributeView;
+
     int writeStartTag(const QString &type, QString &out, bool strict, VySmil::STATUS_CODE *status,
                       VySmil::SMIL_VERSION version) const;
     qsizetype positionOf(unsigned int index, const QString &name) const;

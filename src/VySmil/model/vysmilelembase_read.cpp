@@ -4,6 +4,9 @@
 #include <VySmil/model/treebuilder_p.h>
 
 #include <QDomElement>
+#include <QMap>
+
+#include <vector>
 
 namespace {
 

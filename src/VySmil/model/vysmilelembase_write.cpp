@@ -73,7 +73,7 @@ int VySmilElemBase::writeStartTag(const QString &type, QString &out, bool strict
                 continue;
             writtenUntrimmed.insert(name);
         }
-        if (name == QLatin1String("nohref")) {
+        if (name == VySmilPrivate::bareAttribute) {
             out += u' ' + name;
             continue;
         }

@@ -1,15 +1,21 @@
 // SPDX-FileCopyrightText: 2026 the VySmil authors
 // SPDX-License-Identifier: MIT
 
+#include <VySmil/model/vocabulary_p.h>
 #include <VySmil/model/vysmilelembody.h>
+
+using namespace VySmilPrivate;
+
+VySmilElemBody::VySmilElemBody() = default;
+
+VySmilElemBody::~VySmilElemBody() = default;
 
 QString VySmilElemBody::getElemType() const
 {
-    return QStringLiteral("body");
+    return nameOf(Elem::Body);
 }
 
 bool VySmilElemBody::isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const
 {
-    // This element accepts "id" under every version but the one that is known.
-    return version != VySmil::SMIL_VER_DEFAULT && commonAttrsProxy.isValidAttr(name, version);
+    return takes(Elem::Body, name, version);
 }

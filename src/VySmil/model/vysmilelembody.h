@@ -15,13 +15,16 @@
 class VYSMIL_EXPORT VySmilElemBody : public VySmilElemBase
 {
 public:
-    QString getElemType() const override;
-    bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
+    VySmilElemBody();
+    ~VySmilElemBody() override;
+
+    [[nodiscard]] QString getElemType() const override;
+    [[nodiscard]] bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
 
     /// The group with the identifier; owned by the element.
-    VySmilAttrCommon *getCommonAttrsProxy() { return &commonAttrsProxy; }
+    [[nodiscard]] VySmilAttrCommon *getCommonAttrsProxy() noexcept { return &commonAttrsProxy; }
     /// The same to look at.
-    const VySmilAttrCommon *getCommonAttrsProxy() const { return &commonAttrsProxy; }
+    [[nodiscard]] const VySmilAttrCommon *getCommonAttrsProxy() const noexcept { return &commonAttrsProxy; }
 
 private:
     VySmilAttrCommon commonAttrsProxy{this};

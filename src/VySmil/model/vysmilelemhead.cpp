@@ -1,15 +1,21 @@
 // SPDX-FileCopyrightText: 2026 the VySmil authors
 // SPDX-License-Identifier: MIT
 
+#include <VySmil/model/vocabulary_p.h>
 #include <VySmil/model/vysmilelemhead.h>
+
+using namespace VySmilPrivate;
+
+VySmilElemHead::VySmilElemHead() = default;
+
+VySmilElemHead::~VySmilElemHead() = default;
 
 QString VySmilElemHead::getElemType() const
 {
-    return QStringLiteral("head");
+    return nameOf(Elem::Head);
 }
 
 bool VySmilElemHead::isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const
 {
-    // This element accepts "id" under every version but the one that is known.
-    return version != VySmil::SMIL_VER_DEFAULT && commonAttrsProxy.isValidAttr(name, version);
+    return takes(Elem::Head, name, version);
 }

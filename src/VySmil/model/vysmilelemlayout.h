@@ -12,8 +12,13 @@
 class VYSMIL_EXPORT VySmilElemLayout : public VySmilElemBase
 {
 public:
-    QString getElemType() const override;
-    bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
+    VySmilElemLayout();
+    /// A copy of the whole tree.
+    VySmilElemLayout(const VySmilElemLayout &other);
+    ~VySmilElemLayout() override;
+
+    [[nodiscard]] QString getElemType() const override;
+    [[nodiscard]] bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
 };
 
 #endif

@@ -4,6 +4,10 @@
 #include <VySmil/model/vysmilelembase.h>
 #include <VySmil/model/vysmilelemlist.h>
 
+#include <utility>
+
+VySmilElemList::VySmilElemList() noexcept = default;
+
 VySmilElemList::~VySmilElemList()
 {
     clear();
@@ -14,38 +18,38 @@ void VySmilElemList::append(VySmilElemBase *elem)
     if (!elem)
         return;
     // Most elements that have children have a few: one allocation holds them.
-    if (entries.isEmpty())
-        entries.reserve(4);
-    entries.append(elem);
+    if (m_entries.isEmpty())
+        m_entries.reserve(4);
+    m_entries.append(elem);
 }
 
 void VySmilElemList::insert(qsizetype index, VySmilElemBase *elem)
 {
     if (elem)
-        entries.insert(contains(index) ? index : entries.size(), elem);
+        m_entries.insert(contains(index) ? index : m_entries.size(), elem);
 }
 
 bool VySmilElemList::remove(qsizetype index)
 {
     VySmilElemBase *elem = take(index);
-    if (elem && ownsEntries)
+    if (elem && m_ownsEntries)
         destroy({elem});
     return elem != nullptr;
 }
 
 VySmilElemBase *VySmilElemList::take(qsizetype index)
 {
-    return contains(index) ? entries.takeAt(index) : nullptr;
+    return contains(index) ? m_entries.takeAt(index) : nullptr;
 }
 
 void VySmilElemList::clear()
 {
     QList<VySmilElemBase *> removed;
-    removed.swap(entries);
-    if (!ownsEntries)
+    removed.swap(m_entries);
+    if (!m_ownsEntries)
         return;
-    if (heir)
-        heir->append(removed);
+    if (m_heir)
+        m_heir->append(removed);
     else
         destroy(std::move(removed));
 }
@@ -56,7 +60,7 @@ void VySmilElemList::destroy(QList<VySmilElemBase *> doomed)
 {
     while (!doomed.isEmpty()) {
         VySmilElemBase *elem = doomed.takeLast();
-        elem->getSubElements()->heir = &doomed;
+        elem->getSubElements()->m_heir = &doomed;
         delete elem;
     }
 }

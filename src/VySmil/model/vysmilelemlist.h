@@ -24,7 +24,7 @@ public:
     /// Iterates over the pointers.
     using const_iterator = QList<VySmilElemBase *>::const_iterator;
 
-    VySmilElemList() = default;
+    VySmilElemList() noexcept;
     /// Clears the list.
     ~VySmilElemList();
     Q_DISABLE_COPY_MOVE(VySmilElemList)
@@ -35,39 +35,42 @@ public:
     /// null.
     void insert(qsizetype index, VySmilElemBase *elem);
 
-    /// The element at \a index, or null outside the list.
-    VySmilElemBase *at(qsizetype index) const { return entries.value(index); }
+    /// The element at \a index, or null outside the list. A const list hands out elements that can be
+    /// changed.
+    [[nodiscard]] VySmilElemBase *at(qsizetype index) const noexcept { return m_entries.value(index); }
     /// The number of elements.
-    qsizetype count() const { return entries.size(); }
+    [[nodiscard]] qsizetype count() const noexcept { return m_entries.size(); }
     /// Whether there are none.
-    bool isEmpty() const { return entries.isEmpty(); }
+    [[nodiscard]] bool isEmpty() const noexcept { return m_entries.isEmpty(); }
 
     /// Removes the element at \a index, and deletes it while the list owns its elements. False outside the
     /// list.
     bool remove(qsizetype index);
     /// Removes the element at \a index and hands it to the caller, who owns it then. Null outside the list.
-    VySmilElemBase *take(qsizetype index);
-    /// Removes all elements, and deletes them while the list owns them.
+    [[nodiscard]] VySmilElemBase *take(qsizetype index);
+    /// Removes all elements, and deletes them while the list owns them. In the destructor of an element of a
+    /// client's, which the list that owns it is deleting, the children of that element are not deleted here
+    /// but right after it, by that list.
     void clear();
 
     /// Whether the list owns its elements.
-    bool autoDelete() const { return ownsEntries; }
+    [[nodiscard]] bool autoDelete() const noexcept { return m_ownsEntries; }
     /// Makes the list own its elements, or no longer.
-    void setAutoDelete(bool on) { ownsEntries = on; }
+    void setAutoDelete(bool on) noexcept { m_ownsEntries = on; }
 
     /// The first pointer, for a range-based for.
-    const_iterator begin() const { return entries.cbegin(); }
+    [[nodiscard]] const_iterator begin() const noexcept { return m_entries.cbegin(); }
     /// Behind the last pointer.
-    const_iterator end() const { return entries.cend(); }
+    [[nodiscard]] const_iterator end() const noexcept { return m_entries.cend(); }
 
 private:
-    bool contains(qsizetype index) const { return index >= 0 && index < entries.size(); }
+    bool contains(qsizetype index) const noexcept { return index >= 0 && index < m_entries.size(); }
     static void destroy(QList<VySmilElemBase *> doomed);
 
-    QList<VySmilElemBase *> entries;
+    QList<VySmilElemBase *> m_entries;
     // Takes the entries over while the element of this list is deleted.
-    QList<VySmilElemBase *> *heir = nullptr;
-    bool ownsEntries = false;
+    QList<VySmilElemBase *> *m_heir = nullptr;
+    bool m_ownsEntries = false;
 };
 
 #endif

@@ -9,57 +9,83 @@
 #include <VySmil/model/vysmilelemmediaobjtext.h>
 #include <VySmil/model/vysmilelemmediaobjvideo.h>
 
+using namespace VySmilPrivate;
+
+VySmilElemMediaObj::VySmilElemMediaObj() = default;
+
+VySmilElemMediaObj::~VySmilElemMediaObj() = default;
+
+VySmilElemMediaObjImg::VySmilElemMediaObjImg() = default;
+
+VySmilElemMediaObjImg::~VySmilElemMediaObjImg() = default;
+
+VySmilElemMediaObjText::VySmilElemMediaObjText() = default;
+
+VySmilElemMediaObjText::~VySmilElemMediaObjText() = default;
+
+VySmilElemMediaObjAudio::VySmilElemMediaObjAudio() = default;
+
+VySmilElemMediaObjAudio::~VySmilElemMediaObjAudio() = default;
+
+VySmilElemMediaObjVideo::VySmilElemMediaObjVideo() = default;
+
+VySmilElemMediaObjVideo::~VySmilElemMediaObjVideo() = default;
+
+VySmilElemMediaObjRef::VySmilElemMediaObjRef() = default;
+
+VySmilElemMediaObjRef::~VySmilElemMediaObjRef() = default;
+
 bool VySmilElemMediaObj::isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const
 {
-    return VySmilPrivate::isKnownAttr(name, version, {u"src", u"begin", u"end", u"dur", u"alt", u"region"});
+    return takes(Elem::Ref, name, version);
 }
 
 bool VySmilElemMediaObjAudio::isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const
 {
-    return VySmilPrivate::isKnownAttr(name, version, {u"src", u"begin", u"end", u"dur", u"alt"});
+    return takes(Elem::Audio, name, version);
 }
 
 QString VySmilElemMediaObjImg::getElemType() const
 {
-    return QStringLiteral("img");
+    return nameOf(Elem::Img);
 }
 
 QString VySmilElemMediaObjText::getElemType() const
 {
-    return QStringLiteral("text");
+    return nameOf(Elem::Text);
 }
 
 QString VySmilElemMediaObjAudio::getElemType() const
 {
-    return QStringLiteral("audio");
+    return nameOf(Elem::Audio);
 }
 
 QString VySmilElemMediaObjVideo::getElemType() const
 {
-    return QStringLiteral("video");
+    return nameOf(Elem::Video);
 }
 
 QString VySmilElemMediaObjRef::getElemType() const
 {
-    return QStringLiteral("ref");
+    return nameOf(Elem::Ref);
 }
 
 QString VySmilElemMediaObj::getRegion() const
 {
-    return getAttribute(QStringLiteral("region"));
+    return getAttribute(nameOf(Attr::Region));
 }
 
 void VySmilElemMediaObj::setRegion(const QString &region)
 {
-    setAttribute(QStringLiteral("region"), region);
+    setAttribute(nameOf(Attr::Region), region);
 }
 
 QString VySmilElemMediaObj::getAlt() const
 {
-    return getAttribute(QStringLiteral("alt"));
+    return getAttribute(nameOf(Attr::Alt));
 }
 
 void VySmilElemMediaObj::setAlt(const QString &alt)
 {
-    setAttribute(QStringLiteral("alt"), alt);
+    setAttribute(nameOf(Attr::Alt), alt);
 }

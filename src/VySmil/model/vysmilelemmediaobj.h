@@ -16,24 +16,27 @@
 class VYSMIL_EXPORT VySmilElemMediaObj : public VySmilElemBase
 {
 public:
-    bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
+    VySmilElemMediaObj();
+    ~VySmilElemMediaObj() override;
+
+    [[nodiscard]] bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
 
     /// The group with begin, end and duration; owned by the element.
-    VySmilAttrTiming *getTimingAttrsProxy() { return &timingAttrsProxy; }
+    [[nodiscard]] VySmilAttrTiming *getTimingAttrsProxy() noexcept { return &timingAttrsProxy; }
     /// The same to look at.
-    const VySmilAttrTiming *getTimingAttrsProxy() const { return &timingAttrsProxy; }
+    [[nodiscard]] const VySmilAttrTiming *getTimingAttrsProxy() const noexcept { return &timingAttrsProxy; }
 
     /// The group with the source of the media; owned by the element.
-    VySmilAttrMedia *getMediaAttrsProxy() { return &mediaAttrsProxy; }
+    [[nodiscard]] VySmilAttrMedia *getMediaAttrsProxy() noexcept { return &mediaAttrsProxy; }
     /// The same to look at.
-    const VySmilAttrMedia *getMediaAttrsProxy() const { return &mediaAttrsProxy; }
+    [[nodiscard]] const VySmilAttrMedia *getMediaAttrsProxy() const noexcept { return &mediaAttrsProxy; }
 
     /// The identifier of the region that shows the media.
-    QString getRegion() const;
+    [[nodiscard]] QString getRegion() const;
     /// Stores \a region unchanged.
     void setRegion(const QString &region);
     /// The text to show where the media cannot be.
-    QString getAlt() const;
+    [[nodiscard]] QString getAlt() const;
     /// Stores \a alt unchanged.
     void setAlt(const QString &alt);
 

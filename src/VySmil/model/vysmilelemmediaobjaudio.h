@@ -12,8 +12,11 @@
 class VYSMIL_EXPORT VySmilElemMediaObjAudio : public VySmilElemMediaObj
 {
 public:
-    QString getElemType() const override;
-    bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
+    VySmilElemMediaObjAudio();
+    ~VySmilElemMediaObjAudio() override;
+
+    [[nodiscard]] QString getElemType() const override;
+    [[nodiscard]] bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
 };
 
 #endif

@@ -12,7 +12,10 @@
 class VYSMIL_EXPORT VySmilElemMediaObjImg : public VySmilElemMediaObj
 {
 public:
-    QString getElemType() const override;
+    VySmilElemMediaObjImg();
+    ~VySmilElemMediaObjImg() override;
+
+    [[nodiscard]] QString getElemType() const override;
 };
 
 #endif

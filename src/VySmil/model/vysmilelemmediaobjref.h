@@ -12,7 +12,10 @@
 class VYSMIL_EXPORT VySmilElemMediaObjRef : public VySmilElemMediaObj
 {
 public:
-    QString getElemType() const override;
+    VySmilElemMediaObjRef();
+    ~VySmilElemMediaObjRef() override;
+
+    [[nodiscard]] QString getElemType() const override;
 };
 
 #endif

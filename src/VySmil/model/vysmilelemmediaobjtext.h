@@ -12,7 +12,10 @@
 class VYSMIL_EXPORT VySmilElemMediaObjText : public VySmilElemMediaObj
 {
 public:
-    QString getElemType() const override;
+    VySmilElemMediaObjText();
+    ~VySmilElemMediaObjText() override;
+
+    [[nodiscard]] QString getElemType() const override;
 };
 
 #endif

@@ -12,7 +12,10 @@
 class VYSMIL_EXPORT VySmilElemMediaObjVideo : public VySmilElemMediaObj
 {
 public:
-    QString getElemType() const override;
+    VySmilElemMediaObjVideo();
+    ~VySmilElemMediaObjVideo() override;
+
+    [[nodiscard]] QString getElemType() const override;
 };
 
 #endif

@@ -4,32 +4,40 @@
 #include <VySmil/model/vocabulary_p.h>
 #include <VySmil/model/vysmilelemmeta.h>
 
+using namespace VySmilPrivate;
+
+VySmilElemMeta::VySmilElemMeta() = default;
+
+VySmilElemMeta::VySmilElemMeta(const VySmilElemMeta &other) = default;
+
+VySmilElemMeta::~VySmilElemMeta() = default;
+
 QString VySmilElemMeta::getElemType() const
 {
-    return QStringLiteral("meta");
+    return nameOf(Elem::Meta);
 }
 
 bool VySmilElemMeta::isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const
 {
-    return VySmilPrivate::isKnownAttr(name, version, {u"content", u"name"});
+    return takes(Elem::Meta, name, version);
 }
 
 QString VySmilElemMeta::getName() const
 {
-    return getAttribute(QStringLiteral("name"));
+    return getAttribute(nameOf(Attr::Name));
 }
 
 void VySmilElemMeta::setName(const QString &name)
 {
-    setAttribute(QStringLiteral("name"), name);
+    setAttribute(nameOf(Attr::Name), name);
 }
 
 QString VySmilElemMeta::getConent() const
 {
-    return getAttribute(QStringLiteral("content"));
+    return getAttribute(nameOf(Attr::Content));
 }
 
 void VySmilElemMeta::setContent(const QString &content)
 {
-    setAttribute(QStringLiteral("content"), content);
+    setAttribute(nameOf(Attr::Content), content);
 }

@@ -14,15 +14,20 @@
 class VYSMIL_EXPORT VySmilElemMeta : public VySmilElemBase
 {
 public:
-    QString getElemType() const override;
-    bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
+    VySmilElemMeta();
+    /// A copy of the whole tree.
+    VySmilElemMeta(const VySmilElemMeta &other);
+    ~VySmilElemMeta() override;
+
+    [[nodiscard]] QString getElemType() const override;
+    [[nodiscard]] bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
 
     /// The name of the property.
-    QString getName() const;
+    [[nodiscard]] QString getName() const;
     /// Stores \a name unchanged.
     void setName(const QString &name);
     /// The value of the property. The getter is spelled like this.
-    QString getConent() const;
+    [[nodiscard]] QString getConent() const;
     /// Stores \a content unchanged.
     void setContent(const QString &content);
 };

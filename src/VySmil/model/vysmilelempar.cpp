@@ -4,12 +4,18 @@
 #include <VySmil/model/vocabulary_p.h>
 #include <VySmil/model/vysmilelempar.h>
 
+using namespace VySmilPrivate;
+
+VySmilElemPar::VySmilElemPar() = default;
+
+VySmilElemPar::~VySmilElemPar() = default;
+
 QString VySmilElemPar::getElemType() const
 {
-    return QStringLiteral("par");
+    return nameOf(Elem::Par);
 }
 
 bool VySmilElemPar::isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const
 {
-    return VySmilPrivate::isKnownAttr(name, version, {u"dur"});
+    return takes(Elem::Par, name, version);
 }

@@ -15,13 +15,16 @@
 class VYSMIL_EXPORT VySmilElemPar : public VySmilElemBase
 {
 public:
-    QString getElemType() const override;
-    bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
+    VySmilElemPar();
+    ~VySmilElemPar() override;
+
+    [[nodiscard]] QString getElemType() const override;
+    [[nodiscard]] bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
 
     /// The group with begin, end and duration; owned by the element.
-    VySmilAttrTiming *getTimingAttrsProxy() { return &timingAttrsProxy; }
+    [[nodiscard]] VySmilAttrTiming *getTimingAttrsProxy() noexcept { return &timingAttrsProxy; }
     /// The same to look at.
-    const VySmilAttrTiming *getTimingAttrsProxy() const { return &timingAttrsProxy; }
+    [[nodiscard]] const VySmilAttrTiming *getTimingAttrsProxy() const noexcept { return &timingAttrsProxy; }
 
 private:
     VySmilAttrTiming timingAttrsProxy{this};

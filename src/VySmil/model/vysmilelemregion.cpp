@@ -5,62 +5,68 @@
 #include <VySmil/model/vocabulary_p.h>
 #include <VySmil/model/vysmilelemregion.h>
 
+using namespace VySmilPrivate;
+
+VySmilElemRegion::VySmilElemRegion() = default;
+
+VySmilElemRegion::~VySmilElemRegion() = default;
+
 QString VySmilElemRegion::getElemType() const
 {
-    return QStringLiteral("region");
+    return nameOf(Elem::Region);
 }
 
 bool VySmilElemRegion::isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const
 {
-    return VySmilPrivate::isKnownAttr(name, version, {u"left", u"top", u"height", u"width", u"fit", u"id"});
+    return takes(Elem::Region, name, version);
 }
 
 VySmil::VyLength VySmilElemRegion::getWidth() const
 {
-    return VySmilPrivate::typedAttribute<VySmil::VyLength>(*this, QStringLiteral("width"));
+    return typedAttribute<VySmil::VyLength>(*this, Attr::Width);
 }
 
 void VySmilElemRegion::setWidth(const VySmil::VyLength &length)
 {
-    VySmilPrivate::setTypedAttribute(*this, QStringLiteral("width"), length);
+    setTypedAttribute(*this, Attr::Width, length);
 }
 
 VySmil::VyLength VySmilElemRegion::getHeight() const
 {
-    return VySmilPrivate::typedAttribute<VySmil::VyLength>(*this, QStringLiteral("height"));
+    return typedAttribute<VySmil::VyLength>(*this, Attr::Height);
 }
 
 void VySmilElemRegion::setHeight(const VySmil::VyLength &length)
 {
-    VySmilPrivate::setTypedAttribute(*this, QStringLiteral("height"), length);
+    setTypedAttribute(*this, Attr::Height, length);
 }
 
 VySmil::VyLength VySmilElemRegion::getTop() const
 {
-    return VySmilPrivate::typedAttribute<VySmil::VyLength>(*this, QStringLiteral("top"));
+    return typedAttribute<VySmil::VyLength>(*this, Attr::Top);
 }
 
 void VySmilElemRegion::setTop(const VySmil::VyLength &length)
 {
-    VySmilPrivate::setTypedAttribute(*this, QStringLiteral("top"), length);
+    setTypedAttribute(*this, Attr::Top, length);
 }
 
 VySmil::VyLength VySmilElemRegion::getLeft() const
 {
-    return VySmilPrivate::typedAttribute<VySmil::VyLength>(*this, QStringLiteral("left"));
+    return typedAttribute<VySmil::VyLength>(*this, Attr::Left);
 }
 
 void VySmilElemRegion::setLeft(const VySmil::VyLength &length)
 {
-    VySmilPrivate::setTypedAttribute(*this, QStringLiteral("left"), length);
+    setTypedAttribute(*this, Attr::Left, length);
 }
 
 QString VySmilElemRegion::getFit() const
 {
-    return getAttribute(QStringLiteral("fit"));
+    return getAttribute(nameOf(Attr::Fit));
 }
 
 void VySmilElemRegion::setFit(const QString &fit)
 {
-    setAttribute(QStringLiteral("fit"), fit);
+    setAttribute(nameOf(Attr::Fit), fit);
 }

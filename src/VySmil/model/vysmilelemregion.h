@@ -20,32 +20,35 @@
 class VYSMIL_EXPORT VySmilElemRegion : public VySmilElemBase
 {
 public:
-    QString getElemType() const override;
-    bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
+    VySmilElemRegion();
+    ~VySmilElemRegion() override;
+
+    [[nodiscard]] QString getElemType() const override;
+    [[nodiscard]] bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
 
     /// The group with the identifier; owned by the element.
-    VySmilAttrCommon *getCommonAttrsProxy() { return &commonAttrsProxy; }
+    [[nodiscard]] VySmilAttrCommon *getCommonAttrsProxy() noexcept { return &commonAttrsProxy; }
     /// The same to look at.
-    const VySmilAttrCommon *getCommonAttrsProxy() const { return &commonAttrsProxy; }
+    [[nodiscard]] const VySmilAttrCommon *getCommonAttrsProxy() const noexcept { return &commonAttrsProxy; }
 
     /// The width, of pixels or of the root layout.
-    VySmil::VyLength getWidth() const;
+    [[nodiscard]] VySmil::VyLength getWidth() const;
     /// Stores the text of \a length.
     void setWidth(const VySmil::VyLength &length);
     /// The height.
-    VySmil::VyLength getHeight() const;
+    [[nodiscard]] VySmil::VyLength getHeight() const;
     /// Stores the text of \a length.
     void setHeight(const VySmil::VyLength &length);
     /// The distance from the upper edge of the root layout.
-    VySmil::VyLength getTop() const;
+    [[nodiscard]] VySmil::VyLength getTop() const;
     /// Stores the text of \a length.
     void setTop(const VySmil::VyLength &length);
     /// The distance from its left edge.
-    VySmil::VyLength getLeft() const;
+    [[nodiscard]] VySmil::VyLength getLeft() const;
     /// Stores the text of \a length.
     void setLeft(const VySmil::VyLength &length);
     /// How media fill the region: "fill", "hidden", "meet", "scroll" or "slice".
-    QString getFit() const;
+    [[nodiscard]] QString getFit() const;
     /// Stores \a fit unchanged.
     void setFit(const QString &fit);
 

@@ -5,32 +5,40 @@
 #include <VySmil/model/vocabulary_p.h>
 #include <VySmil/model/vysmilelemrootlayout.h>
 
+using namespace VySmilPrivate;
+
+VySmilElemRootLayout::VySmilElemRootLayout() = default;
+
+VySmilElemRootLayout::VySmilElemRootLayout(const VySmilElemRootLayout &other) = default;
+
+VySmilElemRootLayout::~VySmilElemRootLayout() = default;
+
 QString VySmilElemRootLayout::getElemType() const
 {
-    return QStringLiteral("root-layout");
+    return nameOf(Elem::RootLayout);
 }
 
 bool VySmilElemRootLayout::isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const
 {
-    return VySmilPrivate::isKnownAttr(name, version, {u"width", u"height"});
+    return takes(Elem::RootLayout, name, version);
 }
 
 VySmil::VyLength VySmilElemRootLayout::getWidth() const
 {
-    return VySmilPrivate::typedAttribute<VySmil::VyLength>(*this, QStringLiteral("width"));
+    return typedAttribute<VySmil::VyLength>(*this, Attr::Width);
 }
 
 void VySmilElemRootLayout::setWidth(const VySmil::VyLength &length)
 {
-    VySmilPrivate::setTypedAttribute(*this, QStringLiteral("width"), length);
+    setTypedAttribute(*this, Attr::Width, length);
 }
 
 VySmil::VyLength VySmilElemRootLayout::getHeight() const
 {
-    return VySmilPrivate::typedAttribute<VySmil::VyLength>(*this, QStringLiteral("height"));
+    return typedAttribute<VySmil::VyLength>(*this, Attr::Height);
 }
 
 void VySmilElemRootLayout::setHeight(const VySmil::VyLength &length)
 {
-    VySmilPrivate::setTypedAttribute(*this, QStringLiteral("height"), length);
+    setTypedAttribute(*this, Attr::Height, length);
 }

@@ -17,15 +17,20 @@
 class VYSMIL_EXPORT VySmilElemRootLayout : public VySmilElemBase
 {
 public:
-    QString getElemType() const override;
-    bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
+    VySmilElemRootLayout();
+    /// A copy of the whole tree.
+    VySmilElemRootLayout(const VySmilElemRootLayout &other);
+    ~VySmilElemRootLayout() override;
+
+    [[nodiscard]] QString getElemType() const override;
+    [[nodiscard]] bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
 
     /// The width of the whole picture.
-    VySmil::VyLength getWidth() const;
+    [[nodiscard]] VySmil::VyLength getWidth() const;
     /// Stores the text of \a length.
     void setWidth(const VySmil::VyLength &length);
     /// The height of the whole picture.
-    VySmil::VyLength getHeight() const;
+    [[nodiscard]] VySmil::VyLength getHeight() const;
     /// Stores the text of \a length.
     void setHeight(const VySmil::VyLength &length);
 };

@@ -13,21 +13,22 @@ class VYSMIL_EXPORT VySmilElemSmil : public VySmilElemBase
 {
 public:
     /// A root without children.
-    VySmilElemSmil() { init(); }
+    VySmilElemSmil();
     /// A copy of the whole tree.
-    VySmilElemSmil(const VySmilElemSmil &other) : VySmilElemBase(other) { init(); }
+    VySmilElemSmil(const VySmilElemSmil &other);
     VySmilElemSmil &operator=(const VySmilElemSmil &) = delete;
+    ~VySmilElemSmil() override;
 
     /// Called at the end of both constructors; does nothing.
-    void init();
+    void init() noexcept;
 
     /// The first child "head", wherever it stands, or null.
-    VySmilElemBase *getHead() const;
+    [[nodiscard]] VySmilElemBase *getHead() const;
     /// The first child "body", wherever it stands, or null.
-    VySmilElemBase *getBody() const;
+    [[nodiscard]] VySmilElemBase *getBody() const;
 
-    QString getElemType() const override;
-    bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
+    [[nodiscard]] QString getElemType() const override;
+    [[nodiscard]] bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
 };
 
 #endif

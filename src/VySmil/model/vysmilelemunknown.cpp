@@ -3,6 +3,15 @@
 
 #include <VySmil/model/vysmilelemunknown.h>
 
+VySmilElemUnknown::VySmilElemUnknown()
+{
+    elemType = QStringLiteral("");
+}
+
+VySmilElemUnknown::VySmilElemUnknown(const VySmilElemUnknown &other) = default;
+
+VySmilElemUnknown::~VySmilElemUnknown() = default;
+
 QString VySmilElemUnknown::getElemType() const
 {
     return elemType;

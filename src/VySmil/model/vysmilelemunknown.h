@@ -13,12 +13,15 @@ class VYSMIL_EXPORT VySmilElemUnknown : public VySmilElemBase
 {
 public:
     /// An element with an empty name.
-    VySmilElemUnknown() { elemType = QStringLiteral(""); }
+    VySmilElemUnknown();
+    /// A copy of the whole tree.
+    VySmilElemUnknown(const VySmilElemUnknown &other);
+    ~VySmilElemUnknown() override;
 
-    QString getElemType() const override;
+    [[nodiscard]] QString getElemType() const override;
     /// Stores \a name unchanged. It is written as it stands, so it should be an XML name.
     void setElemType(const QString &name) { elemType = name; }
-    bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
+    [[nodiscard]] bool isValidAttr(const QString &name, VySmil::SMIL_VERSION version) const override;
 };
 
 #endif

@@ -5,6 +5,11 @@
 #define VYSMIL_PLAINREADER_P_H
 
 #include <VySmil/model/treebuilder_p.h>
+#include <VySmil/parser/textcursor_p.h>
+
+#include <QStringView>
+
+#include <vector>
 
 namespace VySmilPrivate {
 
@@ -12,14 +17,14 @@ namespace VySmilPrivate {
 /// references to characters, ordinary text, comments.
 ///
 /// It never calls a text malformed: what it takes, Qt takes, with the same tree, and at the first thing that
-/// it is not certain of it only goes on holding the bounds, for Qt to read the text from its start.
+/// it is not certain of it stops, for Qt to read the text from its start.
 class PlainReader
 {
 public:
     enum class Outcome {
-        Complete, ///< the whole text is read
-        Refused,  ///< the text exceeds the bounds of VySmilParser
-        Unsure,   ///< the text is within the bounds, but may be XML of another kind, or none
+        Done,    ///< the whole text is read
+        Unsure,  ///< the text may be XML of another kind, or none, or exceed the bounds of VySmilParser
+        Refused, ///< the text exceeds those bounds
     };
 
     /// \a document and \a treeBuilder outlive the reader.
@@ -29,29 +34,21 @@ public:
     Outcome read();
 
 private:
-    bool readMarkup();
-    bool readText();
-    bool readComment();
-    bool readStartTag();
-    bool readEndTag();
-    bool readAttributes();
-    bool readValue(QString &value);
-    bool readReference(QString &value);
+    // The steps: what they say holds for the text up to there.
+    Outcome readMarkup();
+    Outcome readText();
+    Outcome readComment();
+    Outcome readStartTag();
+    Outcome readEndTag();
+    Outcome readAttributes();
+    Outcome readValue(QString &value);
     QStringView readName();
-    bool skipBlanks();
-    bool skip(QStringView expected);
-    bool isWithinBounds();
-    bool isTagWithinBounds();
-    void skipPast(QStringView expected);
-    bool isAt(char16_t c) const { return at < end && *at == c; }
 
-    TreeBuilder &builder;
-    const char16_t *at;
-    const char16_t *const end;
-    std::vector<QStringView> open;
-    std::vector<Attribute> attributes; // of the tag that is being read
-    bool hasRoot = false;
-    bool isRefused = false;
+    TreeBuilder &m_builder;
+    TextCursor m_text;
+    std::vector<QStringView> m_open;
+    std::vector<Attribute> m_attributes; // of the tag that is being read
+    bool m_hasRoot = false;
 };
 
 } // namespace VySmilPrivate

@@ -2,12 +2,13 @@
 // SPDX-License-Identifier: MIT
 
 #include <VySmil/model/vocabulary_p.h>
+#include <VySmil/parser/document_p.h>
 #include <VySmil/parser/plainreader_p.h>
 #include <VySmil/parser/vysmilparser.h>
 
 #include <QXmlStreamReader>
 
-#include <utility>
+#include <vector>
 
 namespace {
 
@@ -18,21 +19,17 @@ bool readByQt(QStringView text, VySmilPrivate::TreeBuilder &builder)
     QXmlStreamReader reader(text.toString());
     reader.setNamespaceProcessing(false);
     std::vector<VySmilPrivate::Attribute> attributes;
-    bool mayDeclareType = true; // once, before the root; QXmlStreamReader alone minds neither
     while (!reader.atEnd()) {
         const QXmlStreamReader::TokenType token = reader.readNext();
         if (token == QXmlStreamReader::StartElement) {
-            mayDeclareType = false;
             attributes.clear();
             for (const QXmlStreamAttribute &attribute : reader.attributes())
                 attributes.push_back(
-                    {VySmilPrivate::attributeName(attribute.qualifiedName()), attribute.value().toString()});
+                    {VySmilPrivate::interned(attribute.qualifiedName()), attribute.value().toString()});
             VySmilPrivate::sortByName(attributes);
             builder.startElement(reader.qualifiedName(), attributes);
         } else if (token == QXmlStreamReader::EndElement) {
             builder.endElement();
-        } else if (token == QXmlStreamReader::DTD && !std::exchange(mayDeclareType, false)) {
-            return false;
         }
     }
     return !reader.hasError();
@@ -45,22 +42,22 @@ int VySmilParser::parse(const QString &text, VySmilElemSmil *root, bool strict, 
 {
     if (status)
         *status = VySmil::STATUS_OK;
-    QStringView document = QStringView(text).trimmed();
+    const QStringView document = VySmilPrivate::documentIn(text);
     if (!root || document.isEmpty())
         return VySmil::RESULT_UNUSABLE;
-    if (const qsizetype start = document.indexOf(QLatin1String("<smil")); start > 0)
-        document = document.sliced(start);
 
     root->clearSubElements();
     {
         VySmilPrivate::TreeBuilder builder(*root, strict, version);
         VySmilPrivate::PlainReader reader(document, builder);
         const auto outcome = reader.read();
-        if (outcome == VySmilPrivate::PlainReader::Outcome::Complete)
+        if (outcome == VySmilPrivate::PlainReader::Outcome::Done)
             return builder.handOver(*root, status);
         if (outcome == VySmilPrivate::PlainReader::Outcome::Refused)
             return VySmil::RESULT_MALFORMED;
     }
+    if (VySmilPrivate::outlineOf(document).excess != VySmilPrivate::Excess::None)
+        return VySmil::RESULT_MALFORMED;
     VySmilPrivate::TreeBuilder builder(*root, strict, version);
     if (!readByQt(document, builder))
         return VySmil::RESULT_MALFORMED;

@@ -21,9 +21,9 @@ public:
 
     /// Reads a document into a root, whose children it replaces and whose attributes it adds to.
     ///
-    /// Whatever stands before the first "<smil" is left out. The text is refused as malformed before any work
-    /// is spent on it if it exceeds the bounds above or holds a document type declaration with an internal
-    /// subset.
+    /// Whatever stands before the first "<smil" is left out. A text that exceeds the bounds above or holds a
+    /// document type declaration with an internal subset is refused as malformed, at a cost in proportion to
+    /// its length.
     ///
     /// \param text the document
     /// \param root what it is read into; stays the caller's
@@ -35,15 +35,17 @@ public:
     ///         root tag other than "smil"; VySmil::RESULT_MALFORMED for what is no XML or is refused, with a
     ///         root without children; else what VySmilElemBase::fromDomElem() gives, with what was complete
     ///         before the fault kept.
-    static int parse(const QString &text, VySmilElemSmil *root, bool strict, VySmil::STATUS_CODE *status,
-                     VySmil::SMIL_VERSION version);
+    static int parse(const QString &text, VySmilElemSmil *root, bool strict = false,
+                     VySmil::STATUS_CODE *status = nullptr,
+                     VySmil::SMIL_VERSION version = VySmil::SMIL_VER_DEFAULT);
 
     /// Appends the document under \a root to \a out: see VySmilElemBase::toString(). Neither \a out nor
     /// \a status is cleared first.
     ///
     /// \return VySmil::RESULT_UNUSABLE for a null root, with nothing changed; else what toString() gives.
-    static int assemble(const VySmilElemSmil *root, QString &out, bool strict, VySmil::STATUS_CODE *status,
-                        VySmil::SMIL_VERSION version);
+    static int assemble(const VySmilElemSmil *root, QString &out, bool strict = false,
+                        VySmil::STATUS_CODE *status = nullptr,
+                        VySmil::SMIL_VERSION version = VySmil::SMIL_VER_DEFAULT);
 };
 
 #endif

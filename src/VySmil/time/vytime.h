@@ -52,7 +52,7 @@ public:
     /// fails.
     int fromString(const QString &text);
     /// The text of the member that "timeType" selects.
-    QString toString() const;
+    [[nodiscard]] QString toString() const;
 
     TIME_TYPE timeType = TIME_EMPTY;   ///< which of the members is the value
     VyTimeOffset offsetTime;           ///< while "timeType" is TIME_OFFSET
@@ -67,5 +67,7 @@ public:
     QString rawText;                   ///< while "timeType" is TIME_TEXT: trimmed
     quint32 percent = 0;               ///< while "timeType" is TIME_PERCENT
 };
+
+Q_DECLARE_TYPEINFO(VySmil::VyTime, Q_RELOCATABLE_TYPE);
 
 #endif

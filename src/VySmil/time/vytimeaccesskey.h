@@ -21,10 +21,12 @@ public:
     /// Reads any text as the key, and ignores what stands before the keyword.
     int fromString(const QString &text);
     /// The text of the value.
-    QString toString() const;
+    [[nodiscard]] QString toString() const;
 
     QString key = QStringLiteral(""); ///< the key, as text
     VyTimeOffset offset;              ///< added to that instant
 };
+
+Q_DECLARE_TYPEINFO(VySmil::VyTimeAccessKey, Q_RELOCATABLE_TYPE);
 
 #endif

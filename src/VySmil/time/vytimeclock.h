@@ -30,12 +30,14 @@ public:
     /// Reads \a text: see above.
     int fromString(const QString &text);
     /// The text of the member that "clockType" selects.
-    QString toString() const;
+    [[nodiscard]] QString toString() const;
 
     CLOCK_TYPE clockType = CLOCK_TIMECOUNT; ///< which of the members is the value
     VyTimeCount timeCount;                  ///< while "clockType" is CLOCK_TIMECOUNT
     VyTimeFullClock fullClock;              ///< while "clockType" is CLOCK_FULL
     VyTimePartialClock partialClock;        ///< while "clockType" is CLOCK_PARTIAL
 };
+
+Q_DECLARE_TYPEINFO(VySmil::VyTimeClock, Q_RELOCATABLE_TYPE);
 
 #endif

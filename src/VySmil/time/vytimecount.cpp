@@ -48,7 +48,7 @@ QString VySmil::VyTimeCount::toString() const
     }
 }
 
-qint32 VySmil::VyTimeCount::toMilliSeconds() const
+qint32 VySmil::VyTimeCount::toMilliSeconds() const noexcept
 {
     // Every product is rounded to a float, which is why the factors are not multiplied with each other first.
     float milliSeconds = value;

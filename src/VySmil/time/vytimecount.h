@@ -28,13 +28,15 @@ public:
     /// Reads a number, negative ones too, with a metric in any letter case.
     int fromString(const QString &text);
     /// At most six significant digits and the metric: "1.5h", "1.23457e+06s".
-    QString toString() const;
+    [[nodiscard]] QString toString() const;
     /// The length in whole milliseconds, the rest dropped; the nearest end of the range for what lies outside
     /// of 32 bits, 0 for what is no number.
-    qint32 toMilliSeconds() const;
+    [[nodiscard]] qint32 toMilliSeconds() const noexcept;
 
     float value = 0;               ///< in units of "metric"
     TIME_METRIC metric = METRIC_S; ///< the unit
 };
+
+Q_DECLARE_TYPEINFO(VySmil::VyTimeCount, Q_RELOCATABLE_TYPE);
 
 #endif

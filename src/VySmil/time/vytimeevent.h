@@ -21,11 +21,13 @@ public:
     /// at the first "-", and the offset.
     int fromString(const QString &text);
     /// The text of the value.
-    QString toString() const;
+    [[nodiscard]] QString toString() const;
 
     QString id = QStringLiteral("");    ///< the element that is meant
     QString event = QStringLiteral(""); ///< the name of the event, trimmed
     VyTimeOffset offset;                ///< added to that instant
 };
+
+Q_DECLARE_TYPEINFO(VySmil::VyTimeEvent, Q_RELOCATABLE_TYPE);
 
 #endif

@@ -20,11 +20,13 @@ public:
     /// Reads \a text: see above.
     int fromString(const QString &text);
     /// "01:02:05.500000".
-    QString toString() const;
+    [[nodiscard]] QString toString() const;
 
     quint32 hours = 0;   ///< any number
     quint32 minutes = 0; ///< any number
     float seconds = 0;   ///< with fraction
 };
+
+Q_DECLARE_TYPEINFO(VySmil::VyTimeFullClock, Q_PRIMITIVE_TYPE);
 
 #endif

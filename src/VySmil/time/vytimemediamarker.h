@@ -21,10 +21,12 @@ public:
     /// ignored.
     int fromString(const QString &text);
     /// The text of the value.
-    QString toString() const;
+    [[nodiscard]] QString toString() const;
 
     QString id = QStringLiteral("");         ///< the element whose media hold the marker
     QString markerName = QStringLiteral(""); ///< trimmed
 };
+
+Q_DECLARE_TYPEINFO(VySmil::VyTimeMediaMarker, Q_RELOCATABLE_TYPE);
 
 #endif

@@ -21,10 +21,12 @@ public:
     /// Reads \a text: see above.
     int fromString(const QString &text);
     /// "+5s", "-01:30.000000".
-    QString toString() const;
+    [[nodiscard]] QString toString() const;
 
     bool positive = true; ///< the sign
     VyTimeClock clock;    ///< the magnitude
 };
+
+Q_DECLARE_TYPEINFO(VySmil::VyTimeOffset, Q_RELOCATABLE_TYPE);
 
 #endif

@@ -20,10 +20,12 @@ public:
     /// Reads \a text: see above.
     int fromString(const QString &text);
     /// "02:05.500000".
-    QString toString() const;
+    [[nodiscard]] QString toString() const;
 
     quint32 minutes = 0; ///< any number
     float seconds = 0;   ///< with fraction
 };
+
+Q_DECLARE_TYPEINFO(VySmil::VyTimePartialClock, Q_PRIMITIVE_TYPE);
 
 #endif

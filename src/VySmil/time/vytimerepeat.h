@@ -20,11 +20,13 @@ public:
     /// Reads an id with a ".", both of which may be missing: the id then stays as it was.
     int fromString(const QString &text);
     /// Without the id if that is blank: "repeat(2)+1s".
-    QString toString() const;
+    [[nodiscard]] QString toString() const;
 
     QString id = QStringLiteral(""); ///< empty for the element that holds the value
     quint32 iteration = 0;           ///< which iteration is meant
     VyTimeOffset offset;             ///< added to that instant
 };
+
+Q_DECLARE_TYPEINFO(VySmil::VyTimeRepeat, Q_RELOCATABLE_TYPE);
 
 #endif

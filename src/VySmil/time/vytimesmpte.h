@@ -23,7 +23,7 @@ public:
     /// Reads the kind in any letter case.
     int fromString(const QString &text);
     /// Frames are printed unless they are 0.
-    QString toString() const;
+    [[nodiscard]] QString toString() const;
 
     quint32 hours = 0;                              ///< any number
     quint32 minutes = 0;                            ///< any number
@@ -31,5 +31,7 @@ public:
     quint32 frames = 0;                             ///< 0 also where there are none
     QString smpteType = QStringLiteral("smpte-25"); ///< in lower case
 };
+
+Q_DECLARE_TYPEINFO(VySmil::VyTimeSmpte, Q_RELOCATABLE_TYPE);
 
 #endif

@@ -20,11 +20,13 @@ public:
     /// Reads an id, which ends at the first ".", the keyword in any letter case, and the offset.
     int fromString(const QString &text);
     /// The text of the value.
-    QString toString() const;
+    [[nodiscard]] QString toString() const;
 
     QString id = QStringLiteral(""); ///< the element that is meant
     bool isBegin = true;             ///< else the end of the element is meant
     VyTimeOffset offset;             ///< added to that instant
 };
+
+Q_DECLARE_TYPEINFO(VySmil::VyTimeSycBase, Q_RELOCATABLE_TYPE);
 
 #endif

@@ -27,7 +27,7 @@ public:
     /// Reads a text with or without "wallclock(" and ")".
     int fromString(const QString &text);
     /// The time is left out where it and the offset are zero. The offset is padded with blanks: "+ 1:30".
-    QString toString() const;
+    [[nodiscard]] QString toString() const;
 
     QDate date;                 ///< null if there is none
     quint32 hours = 0;          ///< of the time of day
@@ -38,5 +38,7 @@ public:
     quint32 offsetHours = 0;    ///< of the zone offset
     quint32 offsetMinutes = 0;  ///< of the zone offset
 };
+
+Q_DECLARE_TYPEINFO(VySmil::VyWallClockSyncTime, Q_RELOCATABLE_TYPE);
 
 #endif

@@ -18,10 +18,12 @@ public:
     /// Reads \a text: see above.
     int fromString(const QString &text);
     /// The text of the value, empty where there is none.
-    QString toString() const;
+    [[nodiscard]] QString toString() const;
 
     NUMBER_KIND kind = NUMBER_NONE; ///< number, percentage or none
     quint32 value = 0;              ///< 50% is 50
 };
+
+Q_DECLARE_TYPEINFO(VySmil::VyBandWidth, Q_RELOCATABLE_TYPE);
 
 #endif

@@ -5,6 +5,7 @@
 #include <VySmil/values/vycolor.h>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 

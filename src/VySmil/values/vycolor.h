@@ -30,11 +30,13 @@ public:
     /// Reads a colour in any letter case.
     int fromString(const QString &text);
     /// A colour with red, green and blue is printed as "#ff8000"; a system colour in lower case.
-    QString toString() const;
+    [[nodiscard]] QString toString() const;
 
     COLOR_KIND kind = COLOR_NONE; ///< which of the other fields counts
     QColor color;                 ///< while "kind" is COLOR_RGB; invalid at first
     QString name;                 ///< while "kind" is COLOR_SYSTEM or COLOR_NAMED
 };
+
+Q_DECLARE_TYPEINFO(VySmil::VyColor, Q_RELOCATABLE_TYPE);
 
 #endif

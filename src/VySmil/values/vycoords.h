@@ -26,10 +26,12 @@ public:
     /// repeats the last one where there are fewer.
     int fromString(const QString &text);
     /// A percentage is printed with at most six significant digits.
-    QString toString() const;
+    [[nodiscard]] QString toString() const;
 
     UNIT_KIND unit = UNIT_NONE; ///< what all four numbers are
     Value coords[4];            ///< in the order of the text
 };
+
+Q_DECLARE_TYPEINFO(VySmil::VyCoords, Q_RELOCATABLE_TYPE);
 
 #endif

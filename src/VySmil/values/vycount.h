@@ -24,10 +24,12 @@ public:
     /// Reads a number, negative ones too, or the keyword in any letter case.
     int fromString(const QString &text);
     /// At most six significant digits: "2.5", "1e+07".
-    QString toString() const;
+    [[nodiscard]] QString toString() const;
 
     COUNT_KIND kind = COUNT_NONE; ///< number, keyword or none
     float value = 1;              ///< the number, while "kind" is COUNT_VALUE
 };
+
+Q_DECLARE_TYPEINFO(VySmil::VyCount, Q_RELOCATABLE_TYPE);
 
 #endif

@@ -25,10 +25,12 @@ public:
     /// Reads a number within 32 bits, or a keyword in any letter case.
     int fromString(const QString &text);
     /// The text of the value, empty where there is none.
-    QString toString() const;
+    [[nodiscard]] QString toString() const;
 
     INDEX_KIND kind = INDEX_NONE; ///< number, keyword or none
     quint32 value = 0;            ///< the number, while "kind" is INDEX_VALUE
 };
+
+Q_DECLARE_TYPEINFO(VySmil::VyIndex, Q_RELOCATABLE_TYPE);
 
 #endif

@@ -26,10 +26,12 @@ public:
     /// that a sign fails; or a percentage, signed or not, with nothing between number and "%".
     int fromString(const QString &text);
     /// "120", or a percentage with six decimals: "50.000000%".
-    QString toString() const;
+    [[nodiscard]] QString toString() const;
 
     UNIT_KIND unit = UNIT_NONE; ///< pixels, percent or none
     Value value;                ///< the number
 };
+
+Q_DECLARE_TYPEINFO(VySmil::VyLength, Q_RELOCATABLE_TYPE);
 
 #endif

@@ -24,10 +24,12 @@ public:
     /// Reads \a text: see above.
     int fromString(const QString &text);
     /// A percentage is printed with six decimals: "50.000000%".
-    QString toString() const;
+    [[nodiscard]] QString toString() const;
 
     NUMBER_KIND kind = NUMBER_NONE; ///< number, percentage or none
     Value value;                    ///< the number
 };
+
+Q_DECLARE_TYPEINFO(VySmil::VyMediaLength, Q_RELOCATABLE_TYPE);
 
 #endif

@@ -24,10 +24,12 @@ public:
     /// Reads the number before the first "px", else before the first "%"; what follows the unit is ignored.
     int fromString(const QString &text);
     /// A percentage is printed with at most six significant digits.
-    QString toString() const;
+    [[nodiscard]] QString toString() const;
 
     UNIT_KIND unit = UNIT_NONE; ///< pixels, percent or none
     Value value;                ///< the number
 };
+
+Q_DECLARE_TYPEINFO(VySmil::VySize, Q_RELOCATABLE_TYPE);
 
 #endif

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <chrono>
 #include <string>
+#include <utility>
 #include <vector>
 
 /// Times \a work once, in seconds.
@@ -62,6 +63,13 @@ void compare(benchmark::State &state, Subject subject, Baseline baseline, const 
         state.SetIterationTime(measure(baselineTimes, baseline) + measure(subjectTimes, subject));
     }
     report(state, scale * median(subjectTimes) / median(baselineTimes), baselineName, bound);
+}
+
+/// Registers a benchmark that measures its own time.
+template <typename... Args>
+void addBenchmark(const std::string &name, Args &&...args)
+{
+    benchmark::RegisterBenchmark(name.c_str(), std::forward<Args>(args)...)->UseManualTime();
 }
 
 #endif

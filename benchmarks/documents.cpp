@@ -5,8 +5,9 @@
 // memory.
 
 #include "comparison.h"
-#include "heapwatch.h"
 #include "messages.h"
+
+#include "../tests/support/heapwatch.h"
 
 #include <VySmil/VySmil>
 
@@ -26,7 +27,7 @@ constexpr qsizetype hostileSize = 300'000;
 
 int parse(const QString &text, VySmilElemSmil &root)
 {
-    return VySmilParser::parse(text, &root, false, nullptr, VySmil::SMIL_VER_DEFAULT);
+    return VySmilParser::parse(text, &root);
 }
 
 void parseOnce(const QString &text)
@@ -107,7 +108,7 @@ void benchAssemble(benchmark::State &state, int pars)
     const PlainElement document = plain(root);
     const auto subject = [&root] {
         QString out;
-        VySmilParser::assemble(&root, out, true, nullptr, VySmil::SMIL_VER_DEFAULT);
+        VySmilParser::assemble(&root, out, true);
         benchmark::DoNotOptimize(out);
     };
     const auto baseline = [&document] {
@@ -231,108 +232,39 @@ void benchPeak(benchmark::State &state)
     report(state, tree.peak / tree.left, "heap of the tree", 2.0);
 }
 
-// A part for each medium of message().
-QList<VySmilPart> partsOf(int pars)
-{
-    QList<VySmilPart> parts;
-    const auto add = [&parts](const char *name, int number, const char *type) {
-        VySmilPart part;
-        part.name = QString::fromLatin1(name).arg(number);
-        part.contentLocation = part.name;
-        part.contentId = u'<' + part.name + u'>';
-        part.contentType = QString::fromLatin1(type);
-        parts << part;
-    };
-    for (int i = 0; i < pars; ++i) {
-        add("picture%1.jpg", i, "image/jpeg");
-        add("text%1.txt", i, "text/plain");
-        add("sound%1.amr", i, "audio/amr");
-    }
-    return parts;
-}
-
-void showSlides(const VySmilElemSmil &root, const QList<VySmilPart> &parts)
-{
-    VySmilSlideShow show;
-    benchmark::DoNotOptimize(show.fromTree(root, parts));
-}
-
-void check(const VySmilElemSmil &root, const QList<VySmilPart> &parts)
-{
-    benchmark::DoNotOptimize(VySmilConformance::check(root, VySmilConformance::LEVEL_STRICT, parts));
-}
-
-using Looking = void (*)(const VySmilElemSmil &root, const QList<VySmilPart> &parts);
-
-void benchLooking(benchmark::State &state, Looking look, int pars)
-{
-    const QString text = message(pars);
-    const QList<VySmilPart> parts = partsOf(pars);
-    VySmilElemSmil root;
-    parse(text, root);
-    compare(
-        state, [&] { look(root, parts); }, [&] { parseOnce(text); }, "parse and destroy the tree", 1.5);
-}
-
-// The same per slide of a long message as of a short one.
-void benchLookingGrowth(benchmark::State &state, Looking look)
-{
-    VySmilElemSmil shortRoot;
-    VySmilElemSmil longRoot;
-    parse(message(100), shortRoot);
-    parse(message(3'000), longRoot);
-    const QList<VySmilPart> shortParts = partsOf(100);
-    const QList<VySmilPart> longParts = partsOf(3'000);
-    compare(
-        state, [&] { look(longRoot, longParts); }, [&] { look(shortRoot, shortParts); }, "100 pars", 1.5,
-        100.0 / 3'000);
-}
-
-// Registers a benchmark that measures its own time.
-template <typename... Args>
-void add(const std::string &name, Args &&...args)
-{
-    benchmark::RegisterBenchmark(name.c_str(), std::forward<Args>(args)...)->UseManualTime();
-}
-
 const bool registered = [] {
     for (const int pars : {3, 100, 3'000}) {
         const std::string label = ", " + std::to_string(pars) + " pars";
-        add("parse and destroy the tree" + label, benchParse, pars);
-        add("parse and destroy the tree" + label, benchParseAgainstStream, pars);
-        add("parse, not plain" + label, benchParseByQt, pars);
-        add("assemble" + label, benchAssemble, pars);
-    }
-
-    for (const auto &[label, look] : {std::pair("slide show, ", &showSlides), std::pair("check, ", &check)}) {
-        for (const int pars : {3, 100, 3'000})
-            add(label + std::to_string(pars) + " pars and their parts", benchLooking, look, pars);
-        add(label + std::string("per slide of 3000 pars"), benchLookingGrowth, look);
+        addBenchmark("parse and destroy the tree" + label, benchParse, pars);
+        addBenchmark("parse and destroy the tree" + label, benchParseAgainstStream, pars);
+        addBenchmark("parse, not plain" + label, benchParseByQt, pars);
+        addBenchmark("assemble" + label, benchAssemble, pars);
     }
 
     const int deep = 25'000;
     const QString shut = QStringLiteral("</smil>");
-    add("refused: nesting", benchHostile, nested(deep * 12 / 7), 0.2);
-    add("refused: nesting, not closed", benchHostile, QStringLiteral("<smil>").repeated(deep * 2), 0.2);
-    add("refused: attributes", benchHostile,
-        QStringLiteral("<smil") + attributes(deep) + QStringLiteral("></smil>"), 0.2);
-    add("refused: nesting behind comments", benchHostile,
-        flood(QStringLiteral("<!--x-->")).chopped(shut.size()) + nested(300) + shut, 0.2);
-    add("refused: DTD subset", benchHostile,
-        flood(QStringLiteral("<!ATTLIST a b CDATA \"c\">"), QStringLiteral("<!DOCTYPE a ["),
-              QStringLiteral("]><a/>")),
-        0.2);
-    add("read: comments", benchHostile, flood(QStringLiteral("<!---->")), 10.0);
-    add("read: 256 attributes everywhere", benchHostile,
-        flood(QStringLiteral("<a") + attributes(256) + QStringLiteral("/>")), 10.0);
-    add("read: depth 256 throughout", benchHostile, flood(nested(255)), 10.0);
+    addBenchmark("refused: nesting", benchHostile, nested(deep * 12 / 7), 0.2);
+    addBenchmark("refused: nesting, not closed", benchHostile, QStringLiteral("<smil>").repeated(deep * 2),
+                 0.2);
+    addBenchmark("refused: attributes", benchHostile,
+                 QStringLiteral("<smil") + attributes(deep) + QStringLiteral("></smil>"), 0.2);
+    addBenchmark("refused: nesting behind comments", benchHostile,
+                 flood(QStringLiteral("<!--x-->")).chopped(shut.size()) + nested(300) + shut, 0.2);
+    addBenchmark("refused: DTD subset", benchHostile,
+                 flood(QStringLiteral("<!ATTLIST a b CDATA \"c\">"), QStringLiteral("<!DOCTYPE a ["),
+                       QStringLiteral("]><a/>")),
+                 0.2);
+    addBenchmark("read: comments", benchHostile, flood(QStringLiteral("<!---->")), 10.0);
+    addBenchmark("read: 256 attributes everywhere", benchHostile,
+                 flood(QStringLiteral("<a") + attributes(256) + QStringLiteral("/>")), 10.0);
+    addBenchmark("read: depth 256 throughout", benchHostile, flood(nested(255)), 10.0);
 
     benchmark::RegisterBenchmark("parse, per character, 5 MB to 1 KB", benchGrowth)
         ->UseManualTime()
         ->Iterations(5);
-    add("parse, 100 pars, two threads", benchThreads);
-    add("tree in memory, 3000 pars", benchMemory);
-    add("peak of the heap in parse, 3000 pars", benchPeak);
+    addBenchmark("parse, 100 pars, two threads", benchThreads);
+    addBenchmark("tree in memory, 3000 pars", benchMemory);
+    addBenchmark("peak of the heap in parse, 3000 pars", benchPeak);
     return true;
 }();
 

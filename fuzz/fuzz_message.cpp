@@ -5,16 +5,29 @@
 
 #include "fuzzcheck.h"
 
+#include "../tests/support/growth.h"
 #include "../tests/support/messageproperties.h"
+
+namespace {
+// Above this a text shows how long the library takes, and what is asked below would take longer.
+constexpr size_t large = 4'096;
+} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
 {
-    // A message as the tests have them.
+    // Messages as the tests have them.
     const QString text = QString::fromUtf8(reinterpret_cast<const char *>(data), qsizetype(size));
-    const MessageCase message(text);
-    VySmilElemSmil root;
-    VySmilParser::parse(message.document, &root, false, nullptr, VySmil::SMIL_VER_DEFAULT);
-    checkSame("a message", text, brokenInMessage(root, message.parts), QString());
-    checkSame("parts", text, brokenInParts(message.parts), QString());
+    for (const MessageCase &message : MessageCase::casesOf(text)) {
+        if (size > large) {
+            const Grown grown(message.smil(), message.parts);
+            for (const GrowthOperation &operation : growthOperations())
+                operation.second(grown);
+            continue;
+        }
+        VySmilElemSmil root;
+        VySmilParser::parse(message.smil(), &root);
+        checkSame("a message", text, brokenInMessage(root, message), QString());
+        checkSame("parts", text, brokenInParts(message), QString());
+    }
     return 0;
 }

@@ -4,7 +4,7 @@
 #ifndef VYSMIL_TOOLS_INFORM_H
 #define VYSMIL_TOOLS_INFORM_H
 
-#include <VySmil/VySmil>
+#include "../message.h"
 
 #include <QJsonObject>
 #include <QTextStream>
@@ -14,36 +14,32 @@
 /// What was asked for.
 struct Wishes
 {
-    bool strict = false;
     bool rewrite = false;
+    bool mend = false; ///< what is written anew, too
     bool slides = false;
     bool json = false;
     std::optional<VySmilConformance::CONFORMANCE_LEVEL> level; ///< of the check, if there is to be one
 };
 
-/// A document that was read.
+/// A document that was read, and what was found out about it.
 struct Document
 {
-    QString path;
-    VySmilElemSmil root;
-    int result = VySmil::RESULT_OK;
-    VySmil::STATUS_CODE status = VySmil::STATUS_OK;
+    Message message;
     VySmilSlideShow slides;        ///< if they were asked for
     QList<VySmilFinding> findings; ///< of the check, if there was one
 };
 
-QString inWords(int result);
-QString inWords(VySmil::STATUS_CODE status);
-/// What kind of value the library reads an attribute of this name as.
-bool holdsLength(const QString &attribute);
-bool holdsTime(const QString &attribute);
-/// "size", "region", "time" and "part".
-QStringList namesOf(VySmilMedium::GUESSES guesses);
+/// "#rrggbb", or "transparent".
+QString colorName(const QColor &color);
 
 /// What was asked for, as lines.
 void printText(QTextStream &out, const Document &document, const Wishes &wishes);
 
 /// All that is known, as one object.
-QJsonObject toJson(const Document &document);
+QJsonObject toJson(const Document &document, const Wishes &wishes);
+/// Why nothing is known, as one object.
+QJsonObject errorToJson(const QString &path, const QString &error);
+/// On a line of its own.
+void printJson(QTextStream &out, const QJsonObject &object);
 
 #endif

@@ -1,10 +1,15 @@
 // SPDX-FileCopyrightText: 2026 the VySmil authors
 // SPDX-License-Identifier: MIT
 
-#include "../kindname.h"
+#include "../names.h"
+#include "../printable.h"
 #include "inform.h"
 
+#include <VySmil/model/vocabulary_p.h>
+
 #include <QJsonArray>
+#include <QJsonDocument>
+#include <QMetaProperty>
 
 namespace {
 
@@ -14,17 +19,24 @@ constexpr auto version = VySmil::SMIL_VER_DEFAULT;
 QJsonObject typedReading(const QString &name, const QString &text)
 {
     QJsonObject reading;
-    if (holdsLength(name)) {
+    switch (VySmilPrivate::valueKindOf(VySmilPrivate::attrOf(name))) {
+    case VySmilPrivate::ValueKind::Length: {
         VySmil::VyLength length;
         reading[QStringLiteral("reads")] = length.fromString(text) == VySmil::RESULT_OK;
         if (length.unit == VySmil::UNIT_PIXELS)
             reading[QStringLiteral("pixels")] = length.value.pixels;
         else if (length.unit == VySmil::UNIT_PERCENT)
             reading[QStringLiteral("percent")] = static_cast<double>(length.value.percent);
-    } else if (holdsTime(name)) {
+        break;
+    }
+    case VySmilPrivate::ValueKind::Time: {
         VySmil::VyTime time;
         reading[QStringLiteral("reads")] = time.fromString(text) == VySmil::RESULT_OK;
         reading[QStringLiteral("time")] = time.toString();
+        break;
+    }
+    case VySmilPrivate::ValueKind::Text:
+        break;
     }
     return reading;
 }
@@ -50,62 +62,128 @@ QJsonObject tree(const VySmilElemBase &elem)
             {QStringLiteral("children"), children}};
 }
 
-QJsonArray guesses(VySmilMedium::GUESSES flags)
+// A field of one of the library's values. Undefined, which is left out, where it says nothing or is no plain
+// value.
+QJsonValue field(const QVariant &value)
 {
-    return QJsonArray::fromStringList(namesOf(flags));
+    if (value.metaType() == QMetaType::fromType<VySmilMedium::GUESSES>())
+        return QJsonArray::fromStringList(shortNames(value.value<VySmilMedium::GUESSES>()));
+    switch (value.typeId()) {
+    case QMetaType::QString:
+        return value.toString();
+    case QMetaType::Int:
+        return value.toInt();
+    case QMetaType::QRect: {
+        const QRect rect = value.toRect();
+        if (rect.isNull())
+            return QJsonValue::Undefined;
+        return QJsonArray{rect.x(), rect.y(), rect.width(), rect.height()};
+    }
+    case QMetaType::QColor: {
+        const auto color = value.value<QColor>();
+        return color.isValid() ? colorName(color) : QJsonValue(QJsonValue::Undefined);
+    }
+    default:
+        return QJsonValue::Undefined;
+    }
 }
 
-QJsonObject medium(const VySmilMedium &medium)
+// The plain fields of a value by their names.
+template <typename Gadget>
+QJsonObject fields(const Gadget &gadget)
 {
-    QJsonObject object{{QStringLiteral("kind"), kindName(medium.kind)},
-                       {QStringLiteral("src"), medium.src},
-                       {QStringLiteral("alt"), medium.alt},
-                       {QStringLiteral("region"), medium.region},
-                       {QStringLiteral("fit"), medium.fit},
-                       {QStringLiteral("beginMs"), medium.beginMs},
-                       {QStringLiteral("endMs"), medium.endMs},
-                       {QStringLiteral("guesses"), guesses(medium.guesses)}};
-    if (!medium.rect.isNull())
-        object[QStringLiteral("rect")] =
-            QJsonArray{medium.rect.x(), medium.rect.y(), medium.rect.width(), medium.rect.height()};
+    QJsonObject object;
+    const QMetaObject &meta = Gadget::staticMetaObject;
+    for (int i = 0; i < meta.propertyCount(); ++i) {
+        const QMetaProperty property = meta.property(i);
+        object[QLatin1String(property.name())] = field(property.readOnGadget(&gadget));
+    }
     return object;
 }
 
-QJsonObject slideShow(const VySmilSlideShow &show)
+QJsonObject medium(const VySmilMedium &medium, const Parts &parts)
+{
+    QJsonObject object = fields(medium);
+    object[QStringLiteral("kind")] = shortName(medium.kind);
+    object[QStringLiteral("part")] =
+        medium.part < 0 ? QJsonValue(QJsonValue::Undefined) : parts.files.at(medium.part);
+    return object;
+}
+
+QJsonObject slideShow(const VySmilSlideShow &show, const Parts &parts)
 {
     QJsonArray slides;
     for (const VySmilSlide &slide : show.slides) {
         QJsonArray media;
         for (const VySmilMedium &shown : slide.media)
-            media << medium(shown);
-        slides << QJsonObject{{QStringLiteral("durationMs"), slide.durationMs},
-                              {QStringLiteral("guesses"), guesses(slide.guesses)},
-                              {QStringLiteral("media"), media}};
+            media << medium(shown, parts);
+        QJsonObject object = fields(slide);
+        object[QStringLiteral("media")] = media;
+        slides << object;
     }
-    return {{QStringLiteral("width"), show.size.width()},
-            {QStringLiteral("height"), show.size.height()},
-            {QStringLiteral("guesses"), guesses(show.guesses)},
-            {QStringLiteral("slides"), slides}};
+    QJsonArray unused;
+    for (const int part : show.unusedParts)
+        unused << parts.files.at(part);
+    QJsonObject object = fields(show);
+    object[QStringLiteral("width")] = show.size.width();
+    object[QStringLiteral("height")] = show.size.height();
+    object[QStringLiteral("slides")] = slides;
+    object[QStringLiteral("unusedParts")] = unused;
+    return object;
+}
+
+QJsonArray partList(const Parts &parts)
+{
+    QJsonArray list;
+    for (qsizetype i = 0; i < parts.list.size(); ++i)
+        list << QJsonObject{{QStringLiteral("file"), parts.files.at(i)},
+                            {QStringLiteral("contentType"), parts.list.at(i).contentType}};
+    return list;
+}
+
+QJsonArray findings(const QList<VySmilFinding> &found)
+{
+    QJsonArray findings;
+    for (const VySmilFinding &finding : found) {
+        QJsonObject object = fields(finding);
+        object[QStringLiteral("rule")] =
+            QLatin1String(QMetaEnum::fromType<VySmilFinding::RULE>().valueToKey(finding.rule));
+        object[QStringLiteral("severity")] = shortName(finding.severity);
+        findings << object;
+    }
+    return findings;
 }
 
 } // namespace
 
-QJsonObject toJson(const Document &document)
+QString colorName(const QColor &color)
 {
-    QJsonArray findings;
-    for (const VySmilFinding &finding : document.findings) {
-        const bool isError = finding.severity == VySmilFinding::SEVERITY_ERROR;
-        findings << QJsonObject{
-            {QStringLiteral("rule"), finding.rule},
-            {QStringLiteral("severity"), isError ? QStringLiteral("error") : QStringLiteral("warning")},
-            {QStringLiteral("path"), finding.path},
-            {QStringLiteral("attribute"), finding.attribute},
-            {QStringLiteral("message"), finding.message}};
-    }
-    return {{QStringLiteral("file"), document.path},
-            {QStringLiteral("result"), document.result},
-            {QStringLiteral("status"), document.status},
-            {QStringLiteral("tree"), tree(document.root)},
-            {QStringLiteral("show"), slideShow(document.slides)},
-            {QStringLiteral("findings"), findings}};
+    return color.alpha() == 0 ? QStringLiteral("transparent") : color.name();
+}
+
+QJsonObject toJson(const Document &document, const Wishes &wishes)
+{
+    const Message &message = document.message;
+    QJsonObject object{{QStringLiteral("file"), message.path},
+                       {QStringLiteral("result"), message.result},
+                       {QStringLiteral("status"), message.status},
+                       {QStringLiteral("tree"), tree(message.root)},
+                       {QStringLiteral("parts"), partList(message.parts)},
+                       {QStringLiteral("show"), slideShow(document.slides, message.parts)}};
+    if (!message.mended.isEmpty())
+        object[QStringLiteral("mended")] = message.mended;
+    if (wishes.level)
+        object[QStringLiteral("findings")] = findings(document.findings);
+    return object;
+}
+
+QJsonObject errorToJson(const QString &path, const QString &error)
+{
+    return {{QStringLiteral("file"), path}, {QStringLiteral("error"), error}};
+}
+
+void printJson(QTextStream &out, const QJsonObject &object)
+{
+    const QByteArray json = QJsonDocument(object).toJson(QJsonDocument::Compact);
+    out << printableJson(QString::fromUtf8(json)) << '\n';
 }

@@ -3,12 +3,11 @@
 
 // smilinfo: says what is in a SMIL document, what it shows, and what is wrong with it.
 
-#include "../readtext.h"
+#include "../commandline.h"
+#include "../complain.h"
 #include "inform.h"
 
-#include <QCommandLineParser>
 #include <QCoreApplication>
-#include <QJsonDocument>
 
 namespace {
 
@@ -19,33 +18,70 @@ enum Outcome {
     OUTCOME_UNREADABLE = 2,
 };
 
-// Reads a document and says what was asked for; what keeps it from being read goes to err.
-Outcome inform(QTextStream &out, QTextStream &err, const QString &path, const Wishes &wishes)
+// Reads a document and says what was asked for; what keeps it from being read goes to standard error.
+Outcome inform(QTextStream &out, const QString &path, const Reading &reading, const Wishes &wishes)
 {
-    const auto unreadable = [&](const QString &error) {
-        err << "smilinfo: " << path << ": " << error << Qt::endl;
-        return OUTCOME_UNREADABLE;
-    };
-    QString error;
-    const std::optional<QString> text = readText(path, error);
-    if (!text)
-        return unreadable(error);
-
     Document document;
-    document.path = path;
-    document.result =
-        VySmilParser::parse(*text, &document.root, wishes.strict, &document.status, VySmil::SMIL_VER_DEFAULT);
-    if (document.result == VySmil::RESULT_MALFORMED || document.result == VySmil::RESULT_UNUSABLE)
-        return unreadable(inWords(document.result));
+    QString error;
+    if (!readMessage(path, reading, document.message, error)) {
+        complain(document.message.path, error);
+        if (wishes.json)
+            printJson(out, errorToJson(document.message.path, error));
+        return OUTCOME_UNREADABLE;
+    }
+    const Message &message = document.message;
     if (wishes.slides || wishes.json)
-        document.slides.fromTree(document.root);
+        document.slides.fromTree(message.root, message.parts.list);
     if (wishes.level)
-        document.findings = VySmilConformance::check(document.root, *wishes.level);
+        document.findings = VySmilConformance::check(message.root, *wishes.level, message.parts.list);
     if (wishes.json)
-        out << QJsonDocument(toJson(document)).toJson(QJsonDocument::Compact) << '\n';
+        printJson(out, toJson(document, wishes));
     else
         printText(out, document, wishes);
-    return document.findings.isEmpty() ? OUTCOME_OK : OUTCOME_FINDINGS;
+    const bool isClean = document.findings.isEmpty() && message.result == VySmil::RESULT_OK;
+    return isClean ? OUTCOME_OK : OUTCOME_FINDINGS;
+}
+
+void addOptions(QCommandLineParser &parser)
+{
+    parser.setApplicationDescription(
+        QStringLiteral("Says what is in SMIL documents, what they show, and what is wrong with them."));
+    addCommonOptions(parser);
+    parser.addOption({QStringLiteral("strict"), QStringLiteral("Stop at the first finding.")});
+    parser.addOption(
+        {QStringLiteral("rewrite"), QStringLiteral("Print the document written anew instead of the tree.")});
+    parser.addOption({QStringLiteral("slides"), QStringLiteral("Print the slides instead of the tree.")});
+    parser.addOption({QStringLiteral("check"), QStringLiteral("Print what other phones will trip over.")});
+    parser.addOption({QStringLiteral("level"),
+                      QStringLiteral("How to check: strict, for who sends (the default), or relaxed, for who "
+                                     "receives."),
+                      QStringLiteral("level"), QStringLiteral("strict")});
+    parser.addOption({QStringLiteral("json"),
+                      QStringLiteral("Print all that is known as a JSON object for each document.")});
+    parser.addPositionalArgument(
+        QStringLiteral("files"),
+        QStringLiteral("What to read: documents, or folders that hold one and its parts; standard input "
+                       "without any."),
+        QStringLiteral("[files...]"));
+}
+
+// What the options ask for; nothing if there is no such level.
+std::optional<Wishes> wishesOf(const QCommandLineParser &parser)
+{
+    Wishes wishes;
+    wishes.rewrite = parser.isSet(QStringLiteral("rewrite"));
+    wishes.mend = parser.isSet(QStringLiteral("mend"));
+    wishes.slides = parser.isSet(QStringLiteral("slides"));
+    wishes.json = parser.isSet(QStringLiteral("json"));
+    const QString level = parser.value(QStringLiteral("level"));
+    if (level != u"strict" && level != u"relaxed") {
+        complain(QStringLiteral("no such level: ") + level);
+        return std::nullopt;
+    }
+    if (parser.isSet(QStringLiteral("check")))
+        wishes.level =
+            level == u"strict" ? VySmilConformance::LEVEL_STRICT : VySmilConformance::LEVEL_RELAXED;
+    return wishes;
 }
 
 } // namespace
@@ -53,53 +89,25 @@ Outcome inform(QTextStream &out, QTextStream &err, const QString &path, const Wi
 int main(int argc, char **argv)
 {
     QCoreApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("smilinfo"));
     QCoreApplication::setApplicationVersion(QStringLiteral(VYSMIL_VERSION));
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("Says what is in SMIL documents, what they show, and what is wrong with them."));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    const QCommandLineOption strict(QStringLiteral("strict"), QStringLiteral("Stop at the first finding."));
-    const QCommandLineOption rewrite(QStringLiteral("rewrite"),
-                                     QStringLiteral("Print the document written anew."));
-    const QCommandLineOption slides(QStringLiteral("slides"),
-                                    QStringLiteral("Print the slides instead of the tree."));
-    const QCommandLineOption check(QStringLiteral("check"),
-                                   QStringLiteral("Print what other phones will trip over."));
-    const QCommandLineOption level(QStringLiteral("level"),
-                                   QStringLiteral("How to check: strict, for who sends (the default), or "
-                                                  "relaxed, for who receives."),
-                                   QStringLiteral("level"), QStringLiteral("strict"));
-    const QCommandLineOption json(
-        QStringLiteral("json"),
-        QStringLiteral("Print all that is known as a JSON object for each document."));
-    parser.addOptions({strict, rewrite, slides, check, level, json});
-    parser.addPositionalArgument(QStringLiteral("files"), QStringLiteral("What to read, or standard input."),
-                                 QStringLiteral("[files...]"));
-    parser.process(app);
-
-    QTextStream out(stdout);
-    QTextStream err(stderr);
-    Wishes wishes;
-    wishes.strict = parser.isSet(strict);
-    wishes.rewrite = parser.isSet(rewrite);
-    wishes.slides = parser.isSet(slides);
-    wishes.json = parser.isSet(json);
-    const QString levelName = parser.value(level);
-    if (levelName != u"strict" && levelName != u"relaxed") {
-        err << "smilinfo: no such level: " << levelName << Qt::endl;
+    addOptions(parser);
+    processArguments(parser, OUTCOME_UNREADABLE);
+    const std::optional<Wishes> wishes = wishesOf(parser);
+    if (!wishes)
         return OUTCOME_UNREADABLE;
-    }
-    if (parser.isSet(check))
-        wishes.level =
-            levelName == u"strict" ? VySmilConformance::LEVEL_STRICT : VySmilConformance::LEVEL_RELAXED;
+    bool isComplete = false;
+    Reading reading = readingOf(parser, isComplete);
+    reading.strict = parser.isSet(QStringLiteral("strict"));
 
     QStringList paths = parser.positionalArguments();
     if (paths.isEmpty())
         paths << QStringLiteral("-");
-    Outcome worst = OUTCOME_OK;
+    QTextStream out(stdout);
+    Outcome worst = isComplete ? OUTCOME_OK : OUTCOME_UNREADABLE;
     for (const QString &path : std::as_const(paths)) {
-        worst = std::max(worst, inform(out, err, path, wishes));
+        worst = std::max(worst, inform(out, path, reading, *wishes));
         out.flush();
     }
     return worst;

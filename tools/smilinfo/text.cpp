@@ -1,24 +1,26 @@
 // SPDX-FileCopyrightText: 2026 the VySmil authors
 // SPDX-License-Identifier: MIT
 
-#include "../kindname.h"
+#include "../names.h"
+#include "../printable.h"
 #include "inform.h"
 
+#include <VySmil/model/vocabulary_p.h>
+
+namespace {
+
+constexpr auto version = VySmil::SMIL_VER_DEFAULT;
+
+// Of a document that was read, as far as it was.
 QString inWords(int result)
 {
     switch (result) {
-    case VySmil::RESULT_OK:
-        return QStringLiteral("read");
     case VySmil::RESULT_INVALID_ELEMENT:
         return QStringLiteral("stopped at an element that is not in the vocabulary");
     case VySmil::RESULT_INVALID_ATTR:
         return QStringLiteral("stopped at an attribute that its element does not take");
-    case VySmil::RESULT_UNUSABLE:
-        return QStringLiteral("no SMIL: the text is empty or an element is misspelt");
-    case VySmil::RESULT_NO_OBJECT:
-        return QStringLiteral("out of memory");
     default:
-        return QStringLiteral("no well-formed XML, or beyond the bounds");
+        return QStringLiteral("read");
     }
 }
 
@@ -33,35 +35,6 @@ QString inWords(VySmil::STATUS_CODE status)
         return QStringLiteral("last finding: an unknown attribute");
     }
 }
-
-bool holdsLength(const QString &attribute)
-{
-    static const QStringList lengths{QStringLiteral("width"), QStringLiteral("height"),
-                                     QStringLiteral("left"), QStringLiteral("top")};
-    return lengths.contains(attribute);
-}
-
-bool holdsTime(const QString &attribute)
-{
-    static const QStringList times{QStringLiteral("begin"), QStringLiteral("end"), QStringLiteral("dur")};
-    return times.contains(attribute);
-}
-
-QStringList namesOf(VySmilMedium::GUESSES guesses)
-{
-    QStringList names;
-    for (const auto &[flag, name] :
-         {std::pair(VySmilMedium::GUESS_SIZE, "size"), std::pair(VySmilMedium::GUESS_REGION, "region"),
-          std::pair(VySmilMedium::GUESS_TIME, "time"), std::pair(VySmilMedium::GUESS_PART, "part")}) {
-        if (guesses.testFlag(flag))
-            names << QString::fromLatin1(name);
-    }
-    return names;
-}
-
-namespace {
-
-constexpr auto version = VySmil::SMIL_VER_DEFAULT;
 
 QString inWords(const VySmil::VyLength &length)
 {
@@ -93,28 +66,34 @@ QString reading(const QString &text)
 {
     Value value;
     const int result = value.fromString(text);
-    return QStringLiteral("    (%1)").arg(inWords(value)) +
+    return QStringLiteral("    (%1)").arg(printable(inWords(value))) +
            (result == VySmil::RESULT_OK ? QString() : QStringLiteral("    <-- does not read"));
 }
 
 // What the library makes of an attribute that has a type, or nothing.
 QString typedReading(const QString &name, const QString &text)
 {
-    if (holdsLength(name))
+    switch (VySmilPrivate::valueKindOf(VySmilPrivate::attrOf(name))) {
+    case VySmilPrivate::ValueKind::Length:
         return reading<VySmil::VyLength>(text);
-    return holdsTime(name) ? reading<VySmil::VyTime>(text) : QString();
+    case VySmilPrivate::ValueKind::Time:
+        return reading<VySmil::VyTime>(text);
+    case VySmilPrivate::ValueKind::Text:
+        break;
+    }
+    return QString();
 }
 
 void printTree(QTextStream &out, const VySmilElemBase &elem, int indent)
 {
     const QString margin(qsizetype(2) * indent, u' ');
-    out << margin << elem.getElemType();
+    out << margin << printable(elem.getElemType());
     if (!elem.isValidElement(elem.getElemType(), version))
         out << "    <-- unknown element";
     out << '\n';
     const QMap<QString, QString> attributes = elem.getAttributes();
     for (auto it = attributes.begin(); it != attributes.end(); ++it) {
-        out << margin << "  @" << it.key() << " = \"" << it.value() << '"';
+        out << margin << "  @" << printable(it.key()) << " = \"" << printable(it.value()) << '"';
         if (elem.isValidAttr(it.key(), version))
             out << typedReading(it.key(), it.value());
         else
@@ -129,52 +108,85 @@ void printTree(QTextStream &out, const VySmilElemBase &elem, int indent)
 // As a note behind a line; empty where nothing was guessed.
 QString guessed(VySmilMedium::GUESSES guesses)
 {
-    return guesses == 0 ? QString()
-                        : QStringLiteral("    <-- guessed: ") + namesOf(guesses).join(QStringLiteral(", "));
+    return guesses == 0
+               ? QString()
+               : QStringLiteral("    <-- guessed: ") + shortNames(guesses).join(QStringLiteral(", "));
 }
 
-void printSlides(QTextStream &out, const VySmilSlideShow &show)
+QString place(const QRect &rect)
 {
-    out << "  " << show.size.width() << " x " << show.size.height() << " pixels" << guessed(show.guesses)
-        << '\n';
+    return QStringLiteral("%1,%2 in %3 x %4")
+        .arg(rect.x())
+        .arg(rect.y())
+        .arg(rect.width())
+        .arg(rect.height());
+}
+
+QString color(const char *of, const QColor &color)
+{
+    return color.isValid() ? QStringLiteral(", %1 %2").arg(QLatin1String(of), colorName(color)) : QString();
+}
+
+QString part(const Parts &parts, int part)
+{
+    return QStringLiteral("%1 (%2)").arg(printable(parts.files.at(part)), parts.list.at(part).contentType);
+}
+
+QString inWords(const VySmilMedium &medium, const Parts &parts)
+{
+    QString line = QStringLiteral("%1 \"%2\" from ").arg(shortName(medium.kind), printable(medium.src));
+    line += medium.endMs < 0 ? QStringLiteral("%1 ms to the end of the slide").arg(medium.beginMs)
+                             : QStringLiteral("%1 to %2 ms").arg(medium.beginMs).arg(medium.endMs);
+    if (!medium.rect.isNull())
+        line += QStringLiteral(", at ") + place(medium.rect);
+    if (medium.area != medium.rect)
+        line += QStringLiteral(", cut from ") + place(medium.area);
+    if (!medium.fit.isEmpty())
+        line += QStringLiteral(", fit ") + printable(medium.fit);
+    line += color("background", medium.background) + color("foreground", medium.foreground);
+    if (!medium.alt.isEmpty())
+        line += QStringLiteral(", alt \"") + printable(medium.alt) + u'"';
+    if (medium.part >= 0)
+        line += QStringLiteral(", part ") + part(parts, medium.part);
+    return line + guessed(medium.guesses);
+}
+
+void printSlides(QTextStream &out, const VySmilSlideShow &show, const Parts &parts)
+{
+    out << "  " << show.size.width() << " x " << show.size.height() << " pixels"
+        << color("background", show.background) << guessed(show.guesses) << '\n';
     for (int i = 0; i < show.slides.size(); ++i) {
         const VySmilSlide &slide = show.slides.at(i);
         out << "  slide " << i + 1 << ": " << slide.durationMs << " ms" << guessed(slide.guesses) << '\n';
-        for (const VySmilMedium &medium : slide.media) {
-            out << "    " << kindName(medium.kind) << " \"" << medium.src << "\" from " << medium.beginMs
-                << " to " << medium.endMs << " ms";
-            const QRect &rect = medium.rect;
-            if (!rect.isNull())
-                out << ", at " << rect.x() << ',' << rect.y() << " in " << rect.width() << " x "
-                    << rect.height();
-            if (!medium.fit.isEmpty())
-                out << ", fit " << medium.fit;
-            if (!medium.alt.isEmpty())
-                out << ", alt \"" << medium.alt << '"';
-            out << guessed(medium.guesses) << '\n';
-        }
+        for (const VySmilMedium &medium : slide.media)
+            out << "    " << inWords(medium, parts) << '\n';
     }
+    for (const int unused : show.unusedParts)
+        out << "  unused: " << part(parts, unused) << '\n';
 }
 
 } // namespace
 
 void printText(QTextStream &out, const Document &document, const Wishes &wishes)
 {
-    const bool wantsTree = !wishes.slides && !wishes.level;
-    if (wantsTree || wishes.slides)
-        out << document.path << ": " << inWords(document.result) << "; " << inWords(document.status) << '\n';
+    const Message &message = document.message;
+    const QString path = printable(message.path);
+    const bool wantsTree = !wishes.slides && !wishes.level && !wishes.rewrite;
+    if (wantsTree || wishes.slides || message.result != VySmil::RESULT_OK)
+        out << path << ": " << inWords(message.result) << "; " << inWords(message.status) << '\n';
     if (wantsTree)
-        printTree(out, document.root, 1);
+        printTree(out, message.root, 1);
     if (wishes.slides)
-        printSlides(out, document.slides);
+        printSlides(out, document.slides, message.parts);
     for (const VySmilFinding &finding : document.findings) {
-        out << document.path << ": "
-            << (finding.severity == VySmilFinding::SEVERITY_ERROR ? "error: " : "warning: ")
-            << finding.toString() << '\n';
+        out << path << ": " << (finding.severity == VySmilFinding::SEVERITY_ERROR ? "error: " : "warning: ")
+            << printable(finding.toString()) << '\n';
     }
-    if (wishes.rewrite && document.result == VySmil::RESULT_OK) {
+    if (wishes.rewrite && message.result == VySmil::RESULT_OK) {
         QString written;
-        VySmilParser::assemble(&document.root, written, false, nullptr, version);
-        out << written;
+        VySmilParser::assemble(&message.root, written);
+        // A bare attribute is read, and written as it was.
+        out << printableXml(wishes.mend ? VySmilText::mend(written) : written)
+            << (written.endsWith(u'\n') ? "" : "\n");
     }
 }

@@ -3,55 +3,79 @@
 
 // storyboard: draws what a SMIL document shows as an SVG picture.
 
-#include "../readtext.h"
+#include "../commandline.h"
+#include "../complain.h"
 #include "drawing.h"
 
-#include <VySmil/VySmil>
-
-#include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QLoggingCategory>
 #include <QSaveFile>
+
+#include <cstdio>
+
+namespace {
+
+// Writes to the file, or to standard output for "-".
+bool write(const QByteArray &svg, const QString &path, QString &error)
+{
+    if (path == u'-') {
+        const auto size = static_cast<size_t>(svg.size());
+        error = QStringLiteral("standard output cannot be written");
+        return std::fwrite(svg.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
+    }
+    QSaveFile file(path);
+    const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(svg) == svg.size() && file.commit();
+    error = file.errorString();
+    return isWritten;
+}
+
+} // namespace
 
 int main(int argc, char **argv)
 {
+    constexpr int failure = 2;
     QCoreApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("storyboard"));
     QCoreApplication::setApplicationVersion(QStringLiteral(VYSMIL_VERSION));
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("Draws the slides of a SMIL document, each with its time line, as an SVG picture."));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    const QCommandLineOption output({QStringLiteral("o"), QStringLiteral("output")},
-                                    QStringLiteral("Write the picture to a file instead of standard output."),
-                                    QStringLiteral("file"));
-    parser.addOption(output);
-    parser.addPositionalArgument(QStringLiteral("file"), QStringLiteral("What to read, or standard input."),
-                                 QStringLiteral("[file]"));
-    parser.process(app);
+    addCommonOptions(parser);
+    parser.addOption(
+        {{QStringLiteral("o"), QStringLiteral("output")},
+         QStringLiteral("Write the picture to a file; \"-\", and the default, is standard output."),
+         QStringLiteral("file"),
+         QStringLiteral("-")});
+    parser.addPositionalArgument(
+        QStringLiteral("file"),
+        QStringLiteral("What to read: a document, or a folder that holds one and its "
+                       "parts; standard input without any."),
+        QStringLiteral("[file]"));
+    processArguments(parser, failure);
 
-    const auto fail = [](const QString &path, const QString &error) {
-        std::fprintf(stderr, "storyboard: %s: %s\n", qPrintable(path), qPrintable(error));
-        return 2;
-    };
-    const QString path = parser.positionalArguments().value(0, QStringLiteral("-"));
+    const QStringList paths = parser.positionalArguments();
+    if (paths.size() > 1) {
+        complain(paths.at(1), QStringLiteral("a second file: one file makes one picture"));
+        return failure;
+    }
+    bool isComplete = false;
+    const Reading reading = readingOf(parser, isComplete);
+    const QString path = paths.value(0, QStringLiteral("-"));
+    Message message;
     QString error;
-    const auto text = readText(path, error);
-    if (!text)
-        return fail(path, error);
-    VySmilElemSmil root;
-    if (VySmilParser::parse(*text, &root, false, nullptr, VySmil::SMIL_VER_DEFAULT) != VySmil::RESULT_OK)
-        return fail(path, QStringLiteral("no SMIL document"));
+    if (!readMessage(path, reading, message, error)) {
+        complain(message.path, error);
+        return failure;
+    }
+    // That a photograph is broken is seen in the picture.
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio.*=false"));
     VySmilSlideShow show;
-    show.fromTree(root);
-    const QByteArray svg = drawingOf(show).toUtf8();
-
-    if (!parser.isSet(output))
-        return std::fwrite(svg.constData(), 1, static_cast<size_t>(svg.size()), stdout) ==
-                       static_cast<size_t>(svg.size())
-                   ? 0
-                   : 2;
-    QSaveFile file(parser.value(output));
-    if (!file.open(QIODevice::WriteOnly) || file.write(svg) != svg.size() || !file.commit())
-        return fail(file.fileName(), file.errorString());
-    return 0;
+    show.fromTree(message.root, message.parts.list);
+    const QByteArray svg = drawingOf(show, message.parts.list, contentsOf(show, message.parts.files));
+    const QString output = parser.value(QStringLiteral("output"));
+    if (!write(svg, output, error)) {
+        complain(output, error);
+        return failure;
+    }
+    return isComplete ? 0 : failure;
 }

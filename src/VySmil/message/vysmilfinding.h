@@ -6,6 +6,7 @@
 
 #include <VySmil/vysmil_export.h>
 
+#include <QObject>
 #include <QString>
 
 class VySmilElemBase;
@@ -15,6 +16,13 @@ class VySmilElemBase;
 /// \see [Checking a message before it is sent](checking.md)
 class VYSMIL_EXPORT VySmilFinding
 {
+    Q_GADGET
+    Q_PROPERTY(RULE rule MEMBER rule)
+    Q_PROPERTY(SEVERITY severity MEMBER severity)
+    Q_PROPERTY(QString attribute MEMBER attribute)
+    Q_PROPERTY(QString path MEMBER path)
+    Q_PROPERTY(QString message MEMBER message)
+
 public:
     /// What is asked of a message that all phones can show (OMA MMS Conformance Document 1.2, SMIL).
     enum RULE : qint32 {
@@ -30,12 +38,15 @@ public:
         RULE_SOURCE = 9,       ///< a medium names exactly one part, in ASCII
         RULE_REGION_NAME = 10, ///< what is shown names a region that is declared
         RULE_LETTER_CASE = 11, ///< names are in lower case
+        RULE_NEVER_SHOWN = 12, ///< a medium is there for some time
     };
+    Q_ENUM(RULE)
     /// How grave a finding is.
     enum SEVERITY : qint32 {
         SEVERITY_ERROR = 0,   ///< some phones lose what this is about
         SEVERITY_WARNING = 1, ///< some phones show it otherwise
     };
+    Q_ENUM(SEVERITY)
 
     RULE rule = RULE_VOCABULARY;          ///< what it is about
     SEVERITY severity = SEVERITY_ERROR;   ///< how grave it is
@@ -44,8 +55,15 @@ public:
     QString path;                         ///< to the element: "body/par[2]/img"; "smil" for the root
     QString message;                      ///< what was found, in English
 
-    /// One line: path, attribute if there is one, and what was found.
-    QString toString() const;
+    /// One line without control characters, whatever the document holds: path, attribute if there is one, and
+    /// what was found.
+    [[nodiscard]] Q_INVOKABLE QString toString() const;
+
+    /// Whether all fields but the pointer are the same.
+    bool operator==(const VySmilFinding &other) const noexcept;
+    /// Whether a field but the pointer differs.
+    bool operator!=(const VySmilFinding &other) const noexcept { return !(*this == other); }
 };
+Q_DECLARE_TYPEINFO(VySmilFinding, Q_RELOCATABLE_TYPE);
 
 #endif

@@ -1,167 +1,156 @@
 // SPDX-FileCopyrightText: 2026 the VySmil authors
 // SPDX-License-Identifier: MIT
 
-#include <VySmil/message/knowntime_p.h>
-#include <VySmil/message/layout_p.h>
-#include <VySmil/message/mediumkind_p.h>
-#include <VySmil/message/partindex_p.h>
-#include <VySmil/message/slidewalk_p.h>
+#include <VySmil/message/show_color_p.h>
+#include <VySmil/message/show_defaults_p.h>
+#include <VySmil/message/show_kind_p.h>
+#include <VySmil/message/show_layout_p.h>
+#include <VySmil/message/show_partindex_p.h>
+#include <VySmil/message/show_place_p.h>
+#include <VySmil/message/show_slidetimes_p.h>
+#include <VySmil/message/show_time_p.h>
 #include <VySmil/message/vysmilslideshow.h>
 #include <VySmil/model/vysmilelemsmil.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
-using VySmilPrivate::KnownTime;
+using VySmilPrivate::Attr;
+using VySmilPrivate::textOf;
 
-// What is known of the times of a medium before its slide has a duration; in milliseconds.
-struct Times
-{
-    std::optional<double> begin; // nothing where it waits for a medium that ends with the slide
-    std::optional<double> end;
-};
-
-class Reader
+class ShowReader
 {
 public:
-    Reader(const VySmilElemSmil &root, const QList<VySmilPart> &partList,
-           const VySmilSlideShowOptions &options)
-        : parts(partList),
-          index(partList),
-          layout(root, options.screen),
-          defaultDurationMs(options.defaultDurationMs)
+    ShowReader(const VySmilElemSmil &root, const QList<VySmilPart> &parts,
+               const VySmilSlideShowOptions &options)
+        : m_document(VySmilPrivate::elementsOf(root)),
+          m_layout(m_document, VySmilPrivate::usableSize(options.screen)),
+          m_defaultDurationMs(VySmilPrivate::usableDuration(options.defaultDurationMs)),
+          m_parts(parts),
+          m_index(parts)
     {
     }
 
-    void read(const VySmilElemSmil &root, VySmilSlideShow &show);
+    VySmilSlideShow read() const;
 
 private:
-    VySmilSlide readSlide(const VySmilPrivate::SlideElements &source);
-    VySmilMedium readMedium(const VySmilElemBase &elem);
+    VySmilSlide readSlide(const VySmilPrivate::SlideElements &source) const;
+    VySmilMedium readMedium(const VySmilElemBase &elem) const;
     void place(VySmilMedium &medium) const;
-    Times readTimes(const VySmilPrivate::MediumElement &source, VySmilMedium &medium,
-                    const std::vector<Times> &earlier) const;
+    QList<int> partsBut(const QList<VySmilSlide> &slides) const;
 
-    const QList<VySmilPart> &parts;
-    VySmilPrivate::PartIndex index;
-    const VySmilPrivate::Layout layout;
-    const qint32 defaultDurationMs;
+    const VySmilPrivate::DocumentElements m_document;
+    const VySmilPrivate::Layout m_layout;
+    const qint32 m_defaultDurationMs;
+    const QList<VySmilPart> &m_parts;
+    const VySmilPrivate::PartIndex m_index;
 };
 
-void Reader::read(const VySmilElemSmil &root, VySmilSlideShow &show)
+VySmilSlideShow ShowReader::read() const
 {
-    show = VySmilSlideShow();
-    show.size = layout.size;
-    if (layout.isSizeGuessed)
-        show.guesses |= VySmilMedium::GUESS_SIZE;
-    std::vector<bool> isUsed(static_cast<std::size_t>(parts.size()));
-    for (const VySmilPrivate::SlideElements &source : VySmilPrivate::slidesOf(root)) {
+    VySmilSlideShow show;
+    show.size = m_layout.size();
+    show.guesses = m_layout.guesses();
+    if (m_document.rootLayout)
+        show.background = VySmilPrivate::backgroundOf(*m_document.rootLayout);
+    show.slides.reserve(static_cast<qsizetype>(m_document.slides.size()));
+    for (const VySmilPrivate::SlideElements &source : m_document.slides)
         show.slides.append(readSlide(source));
-        for (const VySmilMedium &medium : std::as_const(show.slides.last().media)) {
-            if (medium.part >= 0)
-                isUsed[static_cast<std::size_t>(medium.part)] = true;
+    const VySmilPrivate::DefaultPlaces places(show.slides, show.size);
+    for (VySmilSlide &slide : show.slides) {
+        for (VySmilMedium &medium : slide.media) {
+            if (medium.rect.isNull())
+                places.place(medium);
         }
     }
-    for (int i = 0; i < parts.size(); ++i) {
-        if (!isUsed[static_cast<std::size_t>(i)] && !VySmilPrivate::isSmilPart(parts.at(i)))
-            show.unusedParts << i;
-    }
+    show.unusedParts = partsBut(show.slides);
+    return show;
 }
 
-VySmilSlide Reader::readSlide(const VySmilPrivate::SlideElements &source)
+VySmilSlide ShowReader::readSlide(const VySmilPrivate::SlideElements &source) const
 {
     VySmilSlide slide;
     slide.elem = source.elem;
-    slide.media.reserve(static_cast<qsizetype>(source.media.size()));
-    std::vector<Times> times;
-    for (const VySmilPrivate::MediumElement &medium : source.media) {
-        slide.media.append(readMedium(*medium.elem));
-        times.push_back(readTimes(medium, slide.media.last(), times));
+    slide.media.reserve(static_cast<qsizetype>(source.steps.size()));
+    std::vector<qint32> lengths;
+    for (const VySmilPrivate::SlideStep &step : source.steps) {
+        if (step.kind != VySmilPrivate::SlideStep::Kind::Medium)
+            continue;
+        slide.media.append(readMedium(*step.elem));
+        const VySmilMedium &medium = slide.media.constLast();
+        lengths.push_back(VySmilPrivate::knownLength(medium.kind, m_parts, medium.part));
     }
-    VySmilPrivate::placeByDefault(slide.media, layout.size);
-
-    const bool isPar = source.elem->getElemType() == QLatin1String("par");
-    const KnownTime dur =
-        isPar ? VySmilPrivate::knownTime(source.elem->getAttribute(QStringLiteral("dur"))) : KnownTime();
-    double duration = dur.isKnown ? dur.ms : 0;
-    if (duration <= 0) {
-        slide.guesses |= VySmilMedium::GUESS_TIME;
-        for (const Times &medium : times)
-            duration = std::max(duration, medium.end.value_or(0));
-    }
-    slide.durationMs = duration > 0 ? VySmilPrivate::saturatedMs(duration) : defaultDurationMs;
-
-    const auto withinSlide = [&slide](const std::optional<double> &ms) {
-        return std::min(VySmilPrivate::saturatedMs(ms.value_or(slide.durationMs)), slide.durationMs);
+    const VySmilPrivate::SlideTimes times = VySmilPrivate::timesOf(source, lengths, m_defaultDurationMs);
+    slide.durationMs = times.durationMs;
+    slide.guesses.setFlag(VySmilMedium::GUESS_TIME, times.isGuessed);
+    const auto withinSlide = [&slide](qint64 ms) {
+        return static_cast<qint32>(std::min<qint64>(ms, slide.durationMs));
     };
-    for (std::size_t i = 0; i < times.size(); ++i) {
-        VySmilMedium &medium = slide.media[static_cast<qsizetype>(i)];
-        medium.beginMs = withinSlide(times[i].begin);
-        medium.endMs = std::max(medium.beginMs, withinSlide(times[i].end));
+    auto medium = slide.media.begin();
+    for (const VySmilPrivate::MediumTimes &found : times.media) {
+        medium->beginMs = withinSlide(found.begin);
+        if (found.end && *found.end < slide.durationMs)
+            medium->endMs = withinSlide(*found.end);
+        medium->guesses.setFlag(VySmilMedium::GUESS_TIME, found.isGuessed);
+        ++medium;
     }
     return slide;
 }
 
-VySmilMedium Reader::readMedium(const VySmilElemBase &elem)
+VySmilMedium ShowReader::readMedium(const VySmilElemBase &elem) const
 {
     VySmilMedium medium;
     medium.elem = &elem;
-    medium.src = elem.getAttribute(QStringLiteral("src"));
-    medium.alt = elem.getAttribute(QStringLiteral("alt"));
-    medium.region = elem.getAttribute(QStringLiteral("region"));
-    medium.part = index.find(medium.src);
-    if (medium.part < 0 && !parts.isEmpty() && !medium.src.trimmed().isEmpty())
+    medium.src = textOf(elem, Attr::Src);
+    medium.alt = textOf(elem, Attr::Alt);
+    medium.region = textOf(elem, Attr::Region);
+    medium.part = m_index.find(medium.src).part;
+    if (medium.part < 0 && !m_parts.isEmpty() && !medium.src.isEmpty())
         medium.guesses |= VySmilMedium::GUESS_PART;
-    medium.kind = VySmilPrivate::kindOf(elem, parts, medium.part);
+    medium.kind = VySmilPrivate::kindOf(VySmilPrivate::elemOf(elem), m_parts, medium.part);
+    if (medium.kind == VySmilMedium::MEDIUM_TEXT)
+        medium.foreground = VySmilPrivate::foregroundOf(elem);
     place(medium);
     return medium;
 }
 
 // In the region that the medium names, or else in the one that most messages have for its kind.
-void Reader::place(VySmilMedium &medium) const
+void ShowReader::place(VySmilMedium &medium) const
 {
     if (medium.kind == VySmilMedium::MEDIUM_AUDIO)
         return;
-    const VySmilPrivate::Area *area = layout.find(medium.region);
-    if (!area && medium.kind == VySmilMedium::MEDIUM_OTHER)
-        return;
-    if (!area) {
+    const VySmilPrivate::Region *region = m_layout.find(medium.region);
+    if (!region && medium.kind != VySmilMedium::MEDIUM_OTHER) {
         medium.guesses |= VySmilMedium::GUESS_REGION;
-        area = layout.find(medium.kind == VySmilMedium::MEDIUM_TEXT ? QStringLiteral("text")
-                                                                    : QStringLiteral("image"));
+        region = m_layout.find(medium.kind == VySmilMedium::MEDIUM_TEXT ? QStringLiteral("Text")
+                                                                        : QStringLiteral("Image"));
     }
-    if (area) {
-        medium.rect = area->rect;
-        medium.fit = area->fit;
-    }
+    if (!region)
+        return;
+    medium.rect = region->rect;
+    medium.area = region->area;
+    medium.fit = region->fit;
+    medium.background = region->background;
+    medium.regionElem = region->elem;
 }
 
-Times Reader::readTimes(const VySmilPrivate::MediumElement &source, VySmilMedium &medium,
-                        const std::vector<Times> &earlier) const
+QList<int> ShowReader::partsBut(const QList<VySmilSlide> &slides) const
 {
-    const KnownTime begin = VySmilPrivate::knownTime(source.elem->getAttribute(QStringLiteral("begin")));
-    const KnownTime end = VySmilPrivate::knownTime(source.elem->getAttribute(QStringLiteral("end")));
-    const KnownTime dur = VySmilPrivate::knownTime(source.elem->getAttribute(QStringLiteral("dur")));
-    const auto isOpen = [](const KnownTime &time) { return time.isThere && !time.isKnown; };
-    if (isOpen(begin) || (isOpen(end) && !end.isIndefinite) || (isOpen(dur) && !dur.isIndefinite))
-        medium.guesses |= VySmilMedium::GUESS_TIME;
-
-    Times times;
-    if (begin.isKnown)
-        times.begin = begin.ms;
-    else if (source.before < 0)
-        times.begin = 0;
-    else if (const Times &before = earlier[static_cast<std::size_t>(source.before)]; before.end)
-        times.begin = std::max(before.begin.value_or(0), *before.end);
-    if (end.isKnown)
-        times.end = end.ms;
-    if (dur.isKnown && times.begin)
-        times.end = std::min(*times.begin + dur.ms, times.end.value_or(*times.begin + dur.ms));
-    const qint32 length = VySmilPrivate::knownLength(medium.kind, parts, medium.part);
-    if (!times.end && times.begin && length > 0)
-        times.end = *times.begin + length;
-    return times;
+    std::vector<bool> isUsed(static_cast<std::size_t>(m_parts.size()));
+    for (const VySmilSlide &slide : slides) {
+        for (const VySmilMedium &medium : slide.media) {
+            if (medium.part >= 0)
+                isUsed[static_cast<std::size_t>(medium.part)] = true;
+        }
+    }
+    QList<int> unused;
+    for (int i = 0; i < m_parts.size(); ++i) {
+        if (!isUsed[static_cast<std::size_t>(i)] && !m_parts.at(i).isSmil())
+            unused << i;
+    }
+    return unused;
 }
 
 } // namespace
@@ -169,6 +158,17 @@ Times Reader::readTimes(const VySmilPrivate::MediumElement &source, VySmilMedium
 int VySmilSlideShow::fromTree(const VySmilElemSmil &root, const QList<VySmilPart> &parts,
                               const VySmilSlideShowOptions &options)
 {
-    Reader(root, parts, VySmilPrivate::withDefaults(options)).read(root, *this);
+    *this = ShowReader(root, parts, options).read();
     return slides.isEmpty() ? VySmil::RESULT_UNUSABLE : VySmil::RESULT_OK;
+}
+
+bool VySmilSlideShow::operator==(const VySmilSlideShow &other) const noexcept
+{
+    return size == other.size && slides == other.slides && unusedParts == other.unusedParts &&
+           background == other.background && guesses == other.guesses;
+}
+
+bool VySmilSlideShowOptions::operator==(const VySmilSlideShowOptions &other) const noexcept
+{
+    return screen == other.screen && defaultDurationMs == other.defaultDurationMs;
 }

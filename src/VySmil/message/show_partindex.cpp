@@ -1,0 +1,125 @@
+// SPDX-FileCopyrightText: 2026 the VySmil authors
+// SPDX-License-Identifier: MIT
+
+#include <VySmil/message/show_partindex_p.h>
+
+#include <QStringConverter>
+
+#include <algorithm>
+
+namespace {
+
+int hexDigit(char c)
+{
+    if (c >= '0' && c <= '9')
+        return c - '0';
+    if (c >= 'a' && c <= 'f')
+        return c - 'a' + 10;
+    return c >= 'A' && c <= 'F' ? c - 'A' + 10 : -1;
+}
+
+// Takes %XX for bytes of UTF-8. A "%" without two digits stays, and so does all of a text that would be no
+// UTF-8; neither is what Qt's decoding does.
+QString percentDecoded(const QString &text)
+{
+    if (!text.contains(u'%'))
+        return text;
+    const QByteArray encoded = text.toUtf8();
+    QByteArray bytes;
+    for (qsizetype i = 0; i < encoded.size(); ++i) {
+        const bool isEscape = encoded[i] == '%' && i + 2 < encoded.size() && hexDigit(encoded[i + 1]) >= 0 &&
+                              hexDigit(encoded[i + 2]) >= 0;
+        if (isEscape) {
+            bytes += static_cast<char>(hexDigit(encoded[i + 1]) * 16 + hexDigit(encoded[i + 2]));
+            i += 2;
+        } else {
+            bytes += encoded[i];
+        }
+    }
+    QStringDecoder decoder(QStringDecoder::Utf8,
+                           QStringConverter::Flag::Stateless | QStringConverter::Flag::ConvertInitialBom);
+    const QString decoded = decoder(bytes);
+    return decoder.hasError() ? text : decoded;
+}
+
+// A text as it is compared in a round.
+QString comparable(const QString &text, int round)
+{
+    QString result = text.trimmed();
+    if (round > 0) {
+        result = percentDecoded(result);
+        if (result.startsWith(u"./"))
+            result.remove(0, 2);
+    }
+    return round > 1 ? result.toCaseFolded() : result;
+}
+
+} // namespace
+
+namespace VySmilPrivate {
+
+PartIndex::Match PartIndex::find(const QString &src) const
+{
+    if (m_parts.isEmpty())
+        return {};
+    QString key = src.trimmed();
+    const bool isCid = key.startsWith(QLatin1String("cid:"), Qt::CaseInsensitive);
+    if (isCid)
+        key.remove(0, 4);
+    const QString id = withoutBrackets(key).toString();
+    static constexpr Field orders[2][3] = {{Field::Location, Field::Name, Field::Id},
+                                           {Field::Id, Field::Location, Field::Name}};
+    for (int round = 0; round < rounds; ++round) {
+        for (const Field field : orders[isCid ? 1 : 0]) {
+            const Match match = table(round, field).value(comparable(field == Field::Id ? id : key, round));
+            if (match.part >= 0)
+                return match;
+        }
+    }
+    return {};
+}
+
+const PartIndex::Table &PartIndex::table(int round, Field field) const
+{
+    std::optional<Table> &made = m_tables[round][static_cast<int>(field)];
+    if (made)
+        return *made;
+    made.emplace();
+    made->reserve(m_parts.size());
+    for (int i = 0; i < m_parts.size(); ++i) {
+        const VySmilPart &part = m_parts.at(i);
+        const QString &text = field == Field::Id         ? withoutBrackets(part.contentId).toString()
+                              : field == Field::Location ? part.contentLocation
+                                                         : part.name;
+        const QString key = comparable(text, round);
+        if (key.isEmpty() || part.isSmil())
+            continue;
+        const auto known = made->find(key);
+        if (known == made->end())
+            made->insert(key, {i, true});
+        else
+            known->isAlone = false;
+    }
+    return *made;
+}
+
+QStringView withoutBrackets(QStringView text) noexcept
+{
+    for (;;) {
+        text = text.trimmed();
+        if (text.startsWith(u'<'))
+            text = text.sliced(1);
+        else if (text.endsWith(u'>'))
+            text.chop(1);
+        else
+            return text;
+    }
+}
+
+bool isPrintableAscii(QStringView text) noexcept
+{
+    return !text.isEmpty() &&
+           std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'!' && c <= u'~'; });
+}
+
+} // namespace VySmilPrivate

@@ -20,20 +20,22 @@ function(vysmil_take_block page fence offset out_text out_offset)
     set(${out_offset} ${behind} PARENT_SCOPE)
 endfunction()
 
-# Builds the program of a page, its first block of C++, and adds a test that compares what it prints with the block
-# behind that.
+# Takes the program of a page, its first block of C++, into a file of its own, which is installed; with the tests it is
+# built too, and what it prints is compared with the block behind it.
 function(vysmil_guide page)
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${page})
     get_filename_component(name ${page} NAME_WE)
-    string(TOLOWER guide_${name} name)
+    string(TOLOWER ${name} name)
     vysmil_take_block(${page} cpp 0 program behind)
-    vysmil_take_block(${page} text ${behind} printed behind)
-    set(source ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
-    set(expected ${CMAKE_CURRENT_BINARY_DIR}/${name}.expected)
+    set(source ${CMAKE_CURRENT_BINARY_DIR}/examples/${name}.cpp)
     file(CONFIGURE OUTPUT ${source} CONTENT "${program}" @ONLY)
-    file(CONFIGURE OUTPUT ${expected} CONTENT "${printed}" @ONLY)
-    add_executable(${name} ${source})
-    target_link_libraries(${name} PRIVATE VySmil)
-    add_test(NAME ${name} COMMAND ${CMAKE_COMMAND}
-        -D COMMAND=$<TARGET_FILE:${name}> -D EXPECTED=${expected} -P ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/compare.cmake)
+    if(VYSMIL_BUILD_TESTS)
+        vysmil_take_block(${page} text ${behind} printed behind)
+        set(expected ${CMAKE_CURRENT_BINARY_DIR}/${name}.expected)
+        file(CONFIGURE OUTPUT ${expected} CONTENT "${printed}" @ONLY)
+        add_executable(guide_${name} ${source})
+        target_link_libraries(guide_${name} PRIVATE VySmil)
+        add_test(NAME guide_${name} COMMAND ${CMAKE_COMMAND} -D COMMAND=$<TARGET_FILE:guide_${name}>
+            -D EXPECTED=${expected} -P ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/compare.cmake)
+    endif()
 endfunction()

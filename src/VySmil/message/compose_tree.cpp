@@ -18,7 +18,7 @@ using VySmilPrivate::nameOf;
 
 VySmilElemBase &append(VySmilElemBase &parent, Elem elem)
 {
-    VySmilElemBase *const child = VySmilElemBase::newElem(nameOf(elem));
+    VySmilElemBase *const child = VySmilPrivate::makeElem(elem);
     Q_CHECK_PTR(child);
     parent.getSubElements()->append(child);
     return *child;
@@ -32,7 +32,7 @@ void setUnlessBlank(VySmilElemBase &elem, Attr attr, const QString &text)
 
 void setMilliSeconds(VySmilElemBase &elem, Attr attr, qint32 ms)
 {
-    elem.setAttribute(nameOf(attr), QString::number(ms) + QStringLiteral("ms"));
+    elem.setAttribute(nameOf(attr), QString::number(ms) + QStringView(u"ms"));
 }
 
 void setSize(VySmilElemBase &elem, QSize size, const QString &unit)
@@ -59,6 +59,7 @@ private:
     void writeHead(VySmilElemBase &head) const;
     void writeSlide(const VySmilSlide &slide, VySmilElemBase &par);
     void writeMedium(const VySmilMedium &medium, qint32 durationMs, VySmilElemBase &elem);
+    bool endsWithItsPart(const VySmilMedium &medium, int part, qint32 durationMs) const;
     using Match = VySmilPrivate::PartIndex::Match;
     struct Source
     {
@@ -102,8 +103,8 @@ void TreeWriter::write(VySmilElemSmil &root)
     VySmilElemBase &head = append(root, Elem::Head);
     for (const auto &[name, content] : meta) {
         VySmilElemBase &elem = append(head, Elem::Meta);
-        setUnlessBlank(elem, Attr::Name, name);
         setUnlessBlank(elem, Attr::Content, content);
+        setUnlessBlank(elem, Attr::Name, name);
     }
     writeHead(head);
     VySmilElemBase &body = append(root, Elem::Body);
@@ -146,21 +147,29 @@ void TreeWriter::writeSlide(const VySmilSlide &slide, VySmilElemBase &par)
         writeMedium(medium, durationMs, append(par, VySmilPrivate::elementFor(medium.kind)));
 }
 
+// In the order of the names, which is that of the store.
 void TreeWriter::writeMedium(const VySmilMedium &medium, qint32 durationMs, VySmilElemBase &elem)
 {
     const Source source = sourceOf(medium);
-    setUnlessBlank(elem, Attr::Src, source.text);
     setUnlessBlank(elem, Attr::Alt, medium.alt);
-    setUnlessBlank(elem, Attr::Region, m_regions.nextId());
     if (medium.beginMs > 0)
         setMilliSeconds(elem, Attr::Begin, medium.beginMs);
-    // A reader takes the length of the part for the end where no other is given.
-    const auto readKind = VySmilPrivate::kindOf(VySmilPrivate::elementFor(medium.kind), m_parts, source.part);
-    const qint32 length = VySmilPrivate::knownLength(readKind, m_parts, source.part);
     if (medium.endMs >= 0)
         setMilliSeconds(elem, Attr::End, medium.endMs);
-    else if (length > 0 && qint64(std::max(0, medium.beginMs)) + length < durationMs)
+    else if (endsWithItsPart(medium, source.part, durationMs))
         setMilliSeconds(elem, Attr::End, durationMs);
+    setUnlessBlank(elem, Attr::Region, m_regions.nextId());
+    setUnlessBlank(elem, Attr::Src, source.text);
+}
+
+// A reader takes the length of the part for the end where no other is given.
+bool TreeWriter::endsWithItsPart(const VySmilMedium &medium, int part, qint32 durationMs) const
+{
+    if (part < 0 || m_parts.at(part).durationMs <= 0)
+        return false;
+    const auto readKind = VySmilPrivate::kindOf(VySmilPrivate::elementFor(medium.kind), m_parts, part);
+    const qint32 length = VySmilPrivate::knownLength(readKind, m_parts, part);
+    return length > 0 && qint64(std::max(0, medium.beginMs)) + length < durationMs;
 }
 
 // The medium's own, unless the part has a better one.

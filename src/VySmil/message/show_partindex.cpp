@@ -42,15 +42,21 @@ QString percentDecoded(const QString &text)
     return decoder.hasError() ? text : decoded;
 }
 
-// A text as it is compared in a round.
+// Costs nothing where there are none.
+QString idWithoutBrackets(const QString &text)
+{
+    const QStringView id = VySmilPrivate::withoutBrackets(text);
+    return id.size() == text.size() ? text : id.toString();
+}
+
+// A trimmed text as it is compared in a round.
 QString comparable(const QString &text, int round)
 {
-    QString result = text.trimmed();
-    if (round > 0) {
-        result = percentDecoded(result);
-        if (result.startsWith(u"./"))
-            result.remove(0, 2);
-    }
+    if (round == 0)
+        return text;
+    QString result = percentDecoded(text);
+    if (result.startsWith(u"./"))
+        result.remove(0, 2);
     return round > 1 ? result.toCaseFolded() : result;
 }
 
@@ -66,7 +72,7 @@ PartIndex::Match PartIndex::find(const QString &src) const
     const bool isCid = key.startsWith(QLatin1String("cid:"), Qt::CaseInsensitive);
     if (isCid)
         key.remove(0, 4);
-    const QString id = withoutBrackets(key).toString();
+    const QString id = idWithoutBrackets(key);
     static constexpr Field orders[2][3] = {{Field::Location, Field::Name, Field::Id},
                                            {Field::Id, Field::Location, Field::Name}};
     for (int round = 0; round < rounds; ++round) {
@@ -88,9 +94,9 @@ const PartIndex::Table &PartIndex::table(int round, Field field) const
     made->reserve(m_parts.size());
     for (int i = 0; i < m_parts.size(); ++i) {
         const VySmilPart &part = m_parts.at(i);
-        const QString &text = field == Field::Id         ? withoutBrackets(part.contentId).toString()
-                              : field == Field::Location ? part.contentLocation
-                                                         : part.name;
+        const QString text = field == Field::Id         ? idWithoutBrackets(part.contentId)
+                             : field == Field::Location ? part.contentLocation.trimmed()
+                                                        : part.name.trimmed();
         const QString key = comparable(text, round);
         if (key.isEmpty() || part.isSmil())
             continue;

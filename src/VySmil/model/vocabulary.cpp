@@ -221,15 +221,20 @@ QString interned(QStringView name)
 
 VySmilElemBase *makeElem(QStringView name)
 {
-    const ElementRow *known = rowOf(elemOf(name));
-    if (!known)
-        known = rowOf(elemOf(name.trimmed().toString().toLower()));
-    if (known)
-        return known->make();
+    Elem elem = elemOf(name);
+    if (elem == Elem::Unknown)
+        elem = elemOf(name.trimmed().toString().toLower());
+    if (elem != Elem::Unknown)
+        return makeElem(elem);
     auto *unknown = new (std::nothrow) VySmilElemUnknown;
     if (unknown)
         unknown->setElemType(name.toString());
     return unknown;
+}
+
+VySmilElemBase *makeElem(Elem elem)
+{
+    return rowOf(elem)->make();
 }
 
 } // namespace VySmilPrivate

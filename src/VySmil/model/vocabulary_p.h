@@ -123,6 +123,8 @@ QString interned(QStringView name);
 
 /// What VySmilElemBase::newElem() gives for \a name.
 VySmilElemBase *makeElem(QStringView name);
+/// The same for the name of \a elem, which is one of the vocabulary.
+VySmilElemBase *makeElem(Elem elem);
 
 /// Whether the class of \a elem, whose type name is \a type, is one that newElem() makes, and not one that a
 /// client derived.

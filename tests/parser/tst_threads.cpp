@@ -51,6 +51,14 @@ private:
             const VySmilElemSmil copy(root);
             text.clear();
             VySmilParser::assemble(&copy, text);
+            const auto level = VySmilConformance::LEVEL_STRICT;
+            for (const VySmilFinding &finding : VySmilConformance::check(copy, level))
+                text += finding.toString();
+            VySmilSlideShow show;
+            show.fromTree(copy);
+            show.toTree(&root);
+            VySmilParser::assemble(&root, text);
+            text += VySmilText::mend("<par alt=\"Tom & Ann\">");
         }
         return text;
     }

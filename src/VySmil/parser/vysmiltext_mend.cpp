@@ -14,6 +14,7 @@
 namespace {
 
 using VySmilPrivate::Attr;
+using VySmilPrivate::bareAttribute;
 using VySmilPrivate::Elem;
 using VySmilPrivate::LooseAttribute;
 using VySmilPrivate::LooseTag;
@@ -21,12 +22,9 @@ using VySmilPrivate::MediumKind;
 using VySmilPrivate::TagReader;
 using VySmilPrivate::TextCursor;
 
-// The attribute that may stand without a value.
-constexpr QStringView nohref = u"nohref";
-
-bool isBareNohref(const LooseAttribute &attribute)
+bool isBareAttribute(const LooseAttribute &attribute)
 {
-    return !attribute.hasValue && attribute.name == nohref;
+    return !attribute.hasValue && attribute.name == bareAttribute;
 }
 
 Elem elemInAnyCase(QStringView name)
@@ -98,8 +96,8 @@ QString valueOf(QStringView written, bool isSourceValue)
 // What mending a text has to know before it begins.
 struct Survey
 {
-    bool isMisspelt = false;      // a name is in the wrong letter case, or a source wrapped
-    QList<qsizetype> bareNohrefs; // the places behind them
+    bool isMisspelt = false;     // a name is in the wrong letter case, or a source wrapped
+    QList<qsizetype> barePlaces; // behind each attribute that stands without a value
     int openedPars = 0;
     int closedPars = 0;
 };
@@ -126,8 +124,8 @@ Survey surveyOf(TagReader reader)
         survey.isMisspelt = survey.isMisspelt || (elem != Elem::Unknown && nameOf(elem) != tag.name);
         for (const LooseAttribute &attribute : tag.attributes) {
             survey.isMisspelt = survey.isMisspelt || isMisspelt(elem, attribute);
-            if (isBareNohref(attribute))
-                survey.bareNohrefs << attribute.name.utf16() + attribute.name.size() - begin;
+            if (isBareAttribute(attribute))
+                survey.barePlaces << attribute.name.utf16() + attribute.name.size() - begin;
         }
     }
     return survey;
@@ -139,13 +137,13 @@ bool doesRead(const QString &text)
     return VySmilParser::parse(text, &root) == VySmil::RESULT_OK;
 }
 
-bool readsWithNohrefs(QStringView document, const QList<qsizetype> &bareNohrefs)
+bool readsWithBareAttributes(QStringView document, const QList<qsizetype> &barePlaces)
 {
-    if (bareNohrefs.isEmpty())
+    if (barePlaces.isEmpty())
         return false;
     QString text;
     qsizetype done = 0;
-    for (const qsizetype place : bareNohrefs) {
+    for (const qsizetype place : barePlaces) {
         text += document.sliced(done, place - done);
         text += QStringView(u"=\"\"");
         done = place;
@@ -266,7 +264,7 @@ void Mender::writeAttributes(const LooseTag &tag, Elem elem)
                                                          : held->isSpeltRight || !isSpeltRight;
         if (isLeftOut)
             continue;
-        const QString value = name == nohref ? name : valueOf(attribute.value, isSource(name));
+        const QString value = name == bareAttribute ? name : valueOf(attribute.value, isSource(name));
         if (!value.isEmpty())
             values.insert(name, {value, isSpeltRight});
     }
@@ -305,7 +303,7 @@ QString VySmilText::mend(const QString &text)
     const Survey survey = surveyOf(reader);
     if (isRead && !survey.isMisspelt)
         return text;
-    Mender mender(isRead || readsWithNohrefs(document, survey.bareNohrefs),
+    Mender mender(isRead || readsWithBareAttributes(document, survey.barePlaces),
                   survey.closedPars < survey.openedPars);
     while (!mender.isAtEnd() && reader.readNext())
         mender.add(reader.tag());

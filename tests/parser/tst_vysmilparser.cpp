@@ -2,9 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "../support/readtext.h"
-#include "../support/storedanswer.h"
 
-#include <QDir>
 #include <QDomDocument>
 #include <QRandomGenerator>
 #include <QTest>
@@ -83,87 +81,6 @@ class TestVySmilParser : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void reads_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("strict");
-        QTest::addColumn<QString>("loose");
-        const auto row = [](const char *name, const QString &text, const char *strict, const char *loose) {
-            QTest::newRow(name) << text << QString(strict) << QString(loose);
-        };
-        // The root has the attribute "old" and the child "meta" before each reading.
-        const char *const untouched = "3 0 smil[old=1](meta)";
-        const char *const refused = "-1 0 smil[old=1]";
-        row("empty", "", untouched, untouched);
-        row("blank", QString(" \n\t") + QChar(0xa0), untouched, untouched);
-        row("no xml", "hello", refused, refused);
-        row("cut off", "<smil><body>", refused, refused);
-        row("two roots", "<smil/><smil/>", refused, refused);
-        row("attribute twice", "<smil><par dur='1' dur='2'/></smil>", refused, refused);
-        row("nothing in it", "<smil/>", "0 0 smil[old=1]", "0 0 smil[old=1]");
-        row("whole",
-            around("<head><layout><region id='I' width=' 5 '/></layout></head><body><par dur='5s'>"
-                   "<img src='a&amp;b&#x20AC;'/>text<!-- note --><?pi?><![CDATA[<par/>]]></par></body>"),
-            "0 0 smil[old=1](head(layout(region[id=I width=5])) body(par[dur=5s](img[src=a&b€])))",
-            "0 0 smil[old=1](head(layout(region[id=I width=5])) body(par[dur=5s](img[src=a&b€])))");
-        row("before the root", "junk <?xml version='1.0'?><!DOCTYPE smil [<!ENTITY e 'x'>]>  <smil/> ",
-            "0 0 smil[old=1]", "0 0 smil[old=1]");
-        row("white space between markup",
-            "<smil>\r\n<body>\t<par> <img/> </par>\n<!-- --> <?p?> <![CDATA[ ]]> </body> </smil> <!-- -->",
-            "0 0 smil[old=1](body(par(img)))", "0 0 smil[old=1](body(par(img)))");
-        row("no-break space behind the root", QString("<smil/>") + QChar(0xa0) + "<!-- -->", refused,
-            refused);
-        row("text behind the root", "<smil/> x <!-- -->", refused, refused);
-        row("a character behind the root", "<smil/>!<!-- -->", refused, refused);
-        row("controls", around("\x0e<body/>"), refused, refused);
-        row("vertical tab", around("\x0b<body/>"), refused, refused);
-        row("a tag that begins like the root", "<smi/><smil/>", "0 0 smil[old=1]", "0 0 smil[old=1]");
-        row("malformed behind a finding", "<smil a='1'><foo/></par></smil>", refused, refused);
-        row("open behind a finding", "<smil a='1'><PAR/><body>", refused, refused);
-        row("elements under one that does not fit", around("<body/><PAR><a><b/></a></PAR><head/>"),
-            "3 0 smil[old=1](body)", "0 0 smil[old=1](body par head)");
-        row("a character before the root", "x<smil/>", "0 0 smil[old=1]", "0 0 smil[old=1]");
-        row("root in a comment", "<!-- <smil --><smil/>", refused, refused);
-        row("capital root", "<SMIL><body/></SMIL>", "3 0 smil[old=1]", "3 0 smil[old=1]");
-        row("other root", "<?xml version='1.0'?><html/>", "3 0 smil[old=1]", "3 0 smil[old=1]");
-        row("longer root", "<smilx/>", "3 0 smil[old=1]", "3 0 smil[old=1]");
-        row("root attribute", "<smil xmlns='x' old='2' a='3'><body/></smil>", "2 2 smil[old=1]",
-            "0 2 smil[a=3 old=2 xmlns=x](body)");
-        row("unknown child", around("<head/><body><par><foo b='1'><img/></foo></par></body>"),
-            "1 1 smil[old=1](head)", "0 1 smil[old=1](head body(par(?foo[b=1](img))))");
-        row("capital child", around("<head/><body><PAR dur='1'><img/></PAR><par/></body>"),
-            "3 0 smil[old=1](head)", "0 0 smil[old=1](head body(par par))");
-        row("bad attribute", around("<head/><body><par dur='1s' foo='2'><img/></par></body>"),
-            "2 2 smil[old=1](head)", "0 2 smil[old=1](head body(par[dur=1s foo=2](img)))");
-        row("last finding counts", around("<foo/><par x='1'/><bar/><body/>"), "1 1 smil[old=1]",
-            "0 1 smil[old=1](?foo par[x=1] ?bar body)");
-        row("attributes before children", around("<par x='1'><foo/></par>"), "2 2 smil[old=1]",
-            "0 1 smil[old=1](par[x=1](?foo))");
-        row("empty value", around("<par dur=' &#9;' bad=''/>"), "2 2 smil[old=1]", "0 2 smil[old=1](par)");
-        row("nohref", around("<region nohref='' id='r'/>"), "2 2 smil[old=1]",
-            "0 2 smil[old=1](region[id=r nohref=nohref])");
-        row("references in values", around("<img alt='&quot;&lt;&#10;&gt;'/>"),
-            "0 0 smil[old=1](img[alt=\"<\n>])", "0 0 smil[old=1](img[alt=\"<\n>])");
-    }
-    void reads()
-    {
-        QFETCH(QString, text);
-        for (const char *mode : {"strict", "loose"}) {
-            QFETCH(QString, strict);
-            QFETCH(QString, loose);
-            const bool isStrict = qstrcmp(mode, "strict") == 0;
-            VySmilElemSmil root;
-            root.setAttribute("old", "1");
-            root.getSubElements()->append(VySmilElemBase::newElem("meta"));
-            QCOMPARE(readText(text, root, isStrict), isStrict ? strict : loose);
-            // Reading again replaces what the first reading left, but for the attributes; behind a processing
-            // instruction Qt reads, to the same effect.
-            readText(text, root, isStrict);
-            QCOMPARE(readText(leftToQt(text), root, isStrict), isStrict ? strict : loose);
-        }
-        QCOMPARE(VySmilParser::parse(text, nullptr, true), 3);
-    }
-
     // Attributes are handled in ascending order of their names, whatever the order in the document.
     void strictStopsKeepEarlierAttributes()
     {
@@ -176,11 +93,14 @@ private Q_SLOTS:
         }
     }
 
-    void nullRootStillResetsTheStatus()
+    void nullRoots()
     {
         VySmil::STATUS_CODE status = VySmil::STATUS_INVALID_ELEMENT;
         QCOMPARE(VySmilParser::parse("<smil/>", nullptr, true, &status), 3);
         QCOMPARE(status, VySmil::STATUS_OK);
+        QString out = QStringLiteral("kept");
+        QCOMPARE(VySmilParser::assemble(nullptr, out), 3);
+        QCOMPARE(out, QStringLiteral("kept"));
     }
 
     void unknownVersions()
@@ -214,44 +134,6 @@ private Q_SLOTS:
             QCOMPARE(root.asked, QStringList({"bad", "dir", "lang", "z"}));
             QCOMPARE(treeText(root), QString("html[bad=1 lang=en z=2](par)"));
         }
-    }
-
-    void writes_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("strict");
-        QTest::addColumn<QString>("loose");
-        const auto row = [](const char *name, const QString &text, const char *strict, const char *loose) {
-            QTest::newRow(name) << text << QString(strict) << QString(loose);
-        };
-        row("nothing in it", "<smil/>", "0 0 ^<smil>~</smil>~", "0 0 ^<smil>~</smil>~");
-        row("name order", around("<body><img src='b' alt='a'/><par/></body>"),
-            "0 0 ^<smil>~<body>~<img alt=\"a\" src=\"b\">~</img>~<par>~</par>~</body>~</smil>~",
-            "0 0 ^<smil>~<body>~<img alt=\"a\" src=\"b\">~</img>~<par>~</par>~</body>~</smil>~");
-        row("escapes", around("<img alt='&amp;&lt;&gt;&quot;&apos;&#9;&#10;&#13;.'/>"),
-            "0 0 ^<smil>~<img alt=\"&amp;&lt;>&quot;'&#9;&#10;&#13;.\">~</img>~</smil>~",
-            "0 0 ^<smil>~<img alt=\"&amp;&lt;>&quot;'&#9;&#10;&#13;.\">~</img>~</smil>~");
-        row("unknown element", around("<body><foo><img/></foo></body>"), "1 1 ^<smil>~<body>~",
-            "0 1 ^<smil>~<body>~<foo>~<img>~</img>~</foo>~</body>~</smil>~");
-        row("bad attribute", around("<par dur='5s' foo='1'><img/></par>"), "2 2 ^<smil>~<par dur=\"5s\"",
-            "0 2 ^<smil>~<par dur=\"5s\" foo=\"1\">~<img>~</img>~</par>~</smil>~");
-        row("nohref", around("<region nohref='x' top='1'/>"), "2 2 ^<smil>~<region",
-            "0 2 ^<smil>~<region nohref top=\"1\">~</region>~</smil>~");
-    }
-    void writes()
-    {
-        QFETCH(QString, text);
-        QFETCH(QString, strict);
-        QFETCH(QString, loose);
-        VySmilElemSmil root;
-        VySmilParser::parse(text, &root);
-        QCOMPARE(writtenText(root, true), strict);
-        QCOMPARE(writtenText(root, false), loose);
-        QString out = QStringLiteral("kept");
-        QCOMPARE(VySmilParser::assemble(nullptr, out), 3);
-        QCOMPARE(out, QStringLiteral("kept"));
-        QCOMPARE(VySmilParser::assemble(&root, out), 0);
-        QVERIFY(out.startsWith("kept<smil"));
     }
 
     void blanksAroundStoredTexts_data()
@@ -324,27 +206,31 @@ private Q_SLOTS:
         }
     }
 
-    // Each document of the corpus has its answer beside it: strict and loose reading, then the text written.
-    void corpus_data()
+    // Text that a quadratic reader would chew on for minutes.
+    void hostileTextTakesNoTime()
     {
-        QTest::addColumn<QString>("path");
-        const QDir dir(CORPUS);
-        const QStringList names = dir.entryList({"*.smil"});
-        QVERIFY(!names.isEmpty());
-        for (const QString &name : names)
-            QTest::newRow(qPrintable(name)) << dir.filePath(name);
-    }
-    void corpus()
-    {
-        QFETCH(QString, path);
-        const QString text = storedText(path);
         VySmilElemSmil root;
-        QString answer = readText(text, root, true) + u'\n';
-        answer += readText(text, root, false) + u'\n';
-        VySmilParser::assemble(&root, answer);
-        const QString answerPath = path.chopped(4) + "answer";
-        QVERIFY(!renewsAnswers() || storeText(answerPath, answer));
-        QCOMPARE(answer, storedText(answerPath));
+        const auto status = [&root](const QString &text) { return VySmilParser::parse(text, &root); };
+        QString numbered;
+        for (int i = 0; i < 300'000; ++i)
+            numbered += QString(" a%1='>'").arg(i);
+        QCOMPARE(status(QString("<smil>").repeated(500'000)), -1);
+        QCOMPARE(status("<smil" + numbered + "/>"), -1);
+        QCOMPARE(status("<smil " + QString("'\"").repeated(300'000)), -1);
+        QCOMPARE(status("<smil><!" + QString("<!").repeated(300'000)), -1);
+        QCOMPARE(status(around("<text src='" + QString("&lt;&#65;").repeated(600'000) + "'/>")), 0);
+    }
+
+    // Whatever a document is cut down to, it is read or refused, never half of each.
+    void everyPrefixIsSafe()
+    {
+        const QString text =
+            "<?xml version='1.0'?>" + around("<body><par a='&lt;'/><!-- x --><![CDATA[x]]></body>");
+        for (qsizetype length = 0; length < text.size(); ++length) {
+            VySmilElemSmil root;
+            const QString expected = length == 0 ? "3 0 smil" : "-1 0 smil";
+            QCOMPARE(readText(text.left(length), root, false), expected);
+        }
     }
 };
 

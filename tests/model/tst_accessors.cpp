@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 the VySmil authors
 // SPDX-License-Identifier: MIT
 
-#include "../support/valuetable.h"
+#include "../support/valuefields.h"
+
+#include <QTest>
 
 namespace {
 

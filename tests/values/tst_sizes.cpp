@@ -4,7 +4,9 @@
 // What clients embed in their own classes, on the stack and in lists. A change of a size here breaks programs
 // that were built before it, and asks for a new SOVERSION (see CHANGELOG.md).
 
-#include "../support/valuetable.h"
+#include <VySmil/VySmil>
+
+#include <QTest>
 
 #include <cstddef>
 
@@ -14,14 +16,6 @@ template <typename Type>
 void row(const char *name, std::size_t size)
 {
     QTest::newRow(name) << sizeof(Type) << size;
-}
-
-// In a list a value is moved as bytes, but made with the defaults of its fields.
-template <typename Value>
-void listed()
-{
-    QVERIFY(QTypeInfo<Value>::isRelocatable);
-    QCOMPARE(fieldsOf(QList<Value>(2).last()), fieldsOf(Value()));
 }
 
 } // namespace
@@ -81,31 +75,6 @@ private Q_SLOTS:
         // The sizes are those of 64 bits.
         if (QT_POINTER_SIZE == 8)
             QCOMPARE(size, expected);
-    }
-
-    void valuesInLists()
-    {
-        listed<VySmil::VyCount>();
-        listed<VySmil::VyIndex>();
-        listed<VySmil::VyMediaLength>();
-        listed<VySmil::VyBandWidth>();
-        listed<VySmil::VyLength>();
-        listed<VySmil::VySize>();
-        listed<VySmil::VyCoords>();
-        listed<VySmil::VyColor>();
-        listed<VySmil::VyTimeCount>();
-        listed<VySmil::VyTimeFullClock>();
-        listed<VySmil::VyTimePartialClock>();
-        listed<VySmil::VyTimeClock>();
-        listed<VySmil::VyTimeOffset>();
-        listed<VySmil::VyTimeSmpte>();
-        listed<VySmil::VyTimeSycBase>();
-        listed<VySmil::VyTimeEvent>();
-        listed<VySmil::VyTimeRepeat>();
-        listed<VySmil::VyTimeAccessKey>();
-        listed<VySmil::VyTimeMediaMarker>();
-        listed<VySmil::VyWallClockSyncTime>();
-        listed<VySmil::VyTime>();
     }
 };
 

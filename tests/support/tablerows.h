@@ -15,10 +15,9 @@ inline QList<QJsonArray> tableRows(const QString &path)
 {
     QFile file(path);
     QList<QJsonArray> rows;
-    if (file.open(QIODevice::ReadOnly)) {
-        for (const QByteArray &line : file.readAll().trimmed().split('\n'))
-            rows << QJsonDocument::fromJson(line).array();
-    }
+    file.open(QIODevice::ReadOnly);
+    for (const QByteArray &line : file.readAll().trimmed().split('\n'))
+        rows << QJsonDocument::fromJson(line).array();
     return rows;
 }
 

@@ -6,11 +6,10 @@
 
 // Pictures that the program "storyboard" drew, and what is in them.
 
-#include <QDir>
+#include "program.h"
+
 #include <QDomDocument>
-#include <QFile>
 #include <QMap>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QXmlStreamReader>
@@ -33,23 +32,14 @@ inline Drawn draw(const Files &files, const QStringList &arguments = {"."},
     const QTemporaryDir dir;
     for (auto file = files.begin(); file != files.end(); ++file) {
         const QString path = dir.filePath(file.key());
-        QFile out(path);
-        if (!QDir().mkpath(QFileInfo(path).path()) || !out.open(QIODevice::WriteOnly) ||
-            out.write(file.value()) != file.value().size())
+        if (!write(path, file.value()) ||
+            (file.key().startsWith("huge") && !QFile::resize(path, 104'857'600)))
             return {-1, QByteArray(), "the test cannot write"};
-        if (file.key().startsWith("huge"))
-            out.resize(104'857'600);
     }
-    QProcess process;
-    process.setWorkingDirectory(dir.path());
-    process.start(PROGRAM, arguments);
-    process.write(input);
-    process.closeWriteChannel();
-    const bool ended = process.waitForFinished() && process.exitStatus() == QProcess::NormalExit;
-    QByteArray svg = process.readAllStandardOutput();
+    Said said = run(arguments, input, dir.path());
     if (QFile written(dir.filePath("out/a.svg")); written.open(QIODevice::ReadOnly))
-        svg += "in a file: " + written.readAll();
-    return {ended ? process.exitCode() : -1, svg, process.readAllStandardError()};
+        said.output += "in a file: " + written.readAll();
+    return {said.exitCode, said.output, said.errors};
 }
 
 // What keeps a picture from being one that nobody need fear; nothing if it is fine.

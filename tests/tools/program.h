@@ -6,9 +6,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QProcess>
 
 /// What a program left behind.
@@ -40,19 +37,6 @@ inline bool write(const QString &path, const QByteArray &content)
     if (!file.open(QIODevice::WriteOnly) && QDir().mkpath(QFileInfo(path).path()))
         file.open(QIODevice::WriteOnly);
     return file.write(content) == content.size();
-}
-
-/// The first line of what was printed, as JSON.
-inline QJsonObject jsonOf(const Said &said)
-{
-    return QJsonDocument::fromJson(said.output.left(said.output.indexOf('\n'))).object();
-}
-
-inline QString jsonText(const QJsonValue &value)
-{
-    const QJsonDocument document =
-        value.isArray() ? QJsonDocument(value.toArray()) : QJsonDocument(value.toObject());
-    return QString::fromUtf8(document.toJson(QJsonDocument::Compact));
 }
 
 inline const QByteArray cleanDocument = "<smil><body><par dur='5ms'><audio src='a'/></par></body></smil>";

@@ -52,6 +52,8 @@ QString wrongAnswer(const QString &path, AnswersTo answersTo)
         for (const QString &answer : answersTo(line))
             given += u'\t' + escaped(answer) + u'\n';
     }
+    if (const qsizetype at = given.indexOf("\tbroken: "); at >= 0)
+        return given.mid(std::max<qsizetype>(at - 300, 0), 600);
     if (renewsAnswers() && storeText(path, given))
         return {};
     const QStringList expected = stored.split(u'\n');

@@ -46,8 +46,8 @@ class TestSmilinfo : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    // "<" makes a file ("-": standard input), "$" runs the program with arguments, in a folder of their own
-    // for those behind a "=".
+    // "=" begins a case with a folder of its own, "<" makes a file in it ("-": standard input), and "$" runs
+    // the program there.
     void transcript()
     {
         std::unique_ptr<QTemporaryDir> dir;
@@ -61,14 +61,14 @@ private Q_SLOTS:
             } else if (line.startsWith("< - ")) {
                 input = content;
             } else if (line.startsWith(u'<')) {
-                return write(dir->filePath(text.section(u' ', 0, 0)), content) ? QStringList()
-                                                                               : QStringList("broken");
+                if (!write(dir->filePath(text.section(u' ', 0, 0)), content))
+                    return {"broken: the test cannot write"};
             } else {
                 const QStringList arguments = text.split(u' ', Qt::SkipEmptyParts);
                 const Said said = run(arguments, input, dir->path());
                 const bool isBroken = said.exitCode == 0 && arguments.contains("--rewrite") &&
                                       !arguments.contains("--check") && !isWrittenAgain(said.output);
-                return isBroken ? QStringList("broken") : linesOf(said);
+                return isBroken ? QStringList("broken: written otherwise again") : linesOf(said);
             }
             return {};
         };

@@ -50,27 +50,20 @@ class TestVySmilElemBase : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void attributesAreStoredUnchecked()
+    void groupsSeeTheSameStore()
     {
         VySmilElemRegion region;
-        QVERIFY(region.getAttribute("x").isEmpty() && !region.getAttribute("x").isNull());
-        region.setAttribute("width", "1");
-        region.setAttribute("Width", " 2 ");
-        region.setAttribute("", "");
-        region.setAttribute("width", "3");
+        QVERIFY(region.getAttribute("a").isEmpty() && !region.getAttribute("a").isNull());
+        VySmilAttrBase &group = *region.getCommonAttrsProxy();
+        QCOMPARE(group.getRefElem(), static_cast<VySmilElemBase *>(&region));
         region.setAttribute("a", "first");
-        QCOMPARE(treeText(region), QString("region[= Width= 2  a=first width=3]"));
-        region.rmAttribute("Width");
-        region.rmAttribute("none");
-        QCOMPARE(treeText(region), QString("region[= a=first width=3]"));
-
-        // The groups see the same store.
-        region.getCommonAttrsProxy()->setAttribute("id", "r");
-        QCOMPARE(region.getAttribute("id"), QString("r"));
-        region.getCommonAttrsProxy()->rmAttribute("a");
-        QCOMPARE(region.getCommonAttrsProxy()->getAttribute("a"), QString());
-        QCOMPARE(region.getCommonAttrsProxy()->getRefElem(), static_cast<VySmilElemBase *>(&region));
-        QVERIFY(!region.getCommonAttrsProxy()->getAttribute("a").isNull());
+        region.setAttribute("Width", " 2 ");
+        group.setAttribute("", "");
+        group.setAttribute("id", "r");
+        QCOMPARE(treeText(region), QString("region[= Width= 2  a=first id=r]"));
+        group.rmAttribute("a");
+        QVERIFY(group.getAttribute("a").isEmpty() && !group.getAttribute("a").isNull());
+        QCOMPARE(treeText(region), QString("region[= Width= 2  id=r]"));
     }
 
     void storeIsAMap()
@@ -348,29 +341,23 @@ private Q_SLOTS:
     }
 
     // Names may be the same once they are trimmed, or under two namespaces: one is stored, the last in order.
-    void readsNamesOnce_data()
-    {
-        QTest::addColumn<QStringList>("names");
-        QTest::addColumn<QString>("written");
-        QTest::newRow("trimmed") << QStringList{" z", "a", "  a "} << " a=\"4\" z=\"0\"";
-        QTest::newRow("other order") << QStringList{"  c", " b"} << " a=\"4\" b=\"1\" c=\"0\"";
-        QTest::newRow("after an earlier one") << QStringList{" a", "b"} << " a=\"4\" b=\"1\"";
-    }
     void readsNamesOnce()
     {
-        QFETCH(QStringList, names);
-        QFETCH(QString, written);
-        QDomDocument dom;
-        QDomElement elem = dom.createElement("par");
-        for (int i = 0; i < names.size(); ++i)
-            elem.setAttribute(names[i], QString::number(i));
-        VySmilElemPar par;
-        par.setAttribute("a", "old");
-        QCOMPARE(par.fromDomElem(elem, false, nullptr, VySmil::SMIL_VER_DEFAULT), 0);
-        par.setAttribute("a", "4");
-        QString text;
-        QCOMPARE(par.toString(text, false, nullptr, VySmil::SMIL_VER_DEFAULT), 0);
-        QCOMPARE(text, "<par" + written + ">\n</par>\n");
+        for (const auto &[names, written] : {std::pair(QStringList{" z", "a", "  a "}, " a=\"4\" z=\"0\""),
+                                             std::pair(QStringList{"  c", " b"}, " a=\"4\" b=\"1\" c=\"0\""),
+                                             std::pair(QStringList{" a", "b"}, " a=\"4\" b=\"1\"")}) {
+            QDomDocument dom;
+            QDomElement elem = dom.createElement("par");
+            for (int i = 0; i < names.size(); ++i)
+                elem.setAttribute(names[i], QString::number(i));
+            VySmilElemPar par;
+            par.setAttribute("a", "old");
+            QCOMPARE(par.fromDomElem(elem, false, nullptr, VySmil::SMIL_VER_DEFAULT), 0);
+            par.setAttribute("a", "4");
+            QString text;
+            QCOMPARE(par.toString(text, false, nullptr, VySmil::SMIL_VER_DEFAULT), 0);
+            QCOMPARE(text, QString("<par") + written + ">\n</par>\n");
+        }
     }
 
     void readsANameOfTwoNamespacesOnce()

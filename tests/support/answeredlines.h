@@ -6,6 +6,7 @@
 
 #include "storedanswer.h"
 
+#include <QCryptographicHash>
 #include <QRegularExpression>
 #include <QStringList>
 
@@ -27,7 +28,7 @@ inline QString unescaped(QString line)
     return line.replace("\\r", "\r").replace("\\n", "\n");
 }
 
-/// An answer on one line, cut if it is too long to be looked at.
+/// An answer on one line; a long one is cut, and what is cut off told by a checksum.
 inline QString escaped(const QString &answer)
 {
     QString text;
@@ -36,7 +37,10 @@ inline QString escaped(const QString &answer)
         const bool isSeen = c == u' ' || c.isSurrogate() || (c.isPrint() && !c.isSpace());
         text += c == u'\n' ? QString("~") : isSeen ? QString(c) : code;
     }
-    return text.size() > 1'000 ? text.left(99) + QString("... %1 characters").arg(text.size()) : text;
+    if (text.size() <= 1'000)
+        return text;
+    const QByteArray sum = QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Md5).toHex();
+    return text.left(99) + QString("... %1 characters, %2").arg(text.size()).arg(sum.constData());
 }
 
 /// The first line that differs from what \a answersTo gives for those above it; empty if none does.

@@ -18,16 +18,9 @@
 
 using Files = QMap<QString, QByteArray>;
 
-struct Drawn
-{
-    int exitCode;
-    QByteArray svg;
-    QByteArray errors;
-};
-
 // Runs the program in a folder with these files.
-inline Drawn draw(const Files &files, const QStringList &arguments = {"."},
-                  const QByteArray &input = QByteArray())
+inline Said draw(const Files &files, const QStringList &arguments = {"."},
+                 const QByteArray &input = QByteArray())
 {
     const QTemporaryDir dir;
     for (auto file = files.begin(); file != files.end(); ++file) {
@@ -39,7 +32,7 @@ inline Drawn draw(const Files &files, const QStringList &arguments = {"."},
     Said said = run(arguments, input, dir.path());
     if (QFile written(dir.filePath("out/a.svg")); written.open(QIODevice::ReadOnly))
         said.output += "in a file: " + written.readAll();
-    return {said.exitCode, said.output, said.errors};
+    return said;
 }
 
 // What keeps a picture from being one that nobody need fear; nothing if it is fine.
@@ -99,11 +92,11 @@ inline QList<double> numbers(const QDomElement &elem, const QStringList &names)
 }
 
 /// The picture; an empty one if it is none that anyone may show.
-inline QDomElement pictureOf(QDomDocument &dom, const Drawn &drawn)
+inline QDomElement pictureOf(QDomDocument &dom, const Said &drawn)
 {
-    const QString fault = faultIn(drawn.svg);
+    const QString fault = faultIn(drawn.output);
     if (drawn.exitCode == 0 && drawn.errors.isEmpty() && fault.isEmpty())
-        dom.setContent(drawn.svg);
+        dom.setContent(drawn.output);
     else
         qWarning() << drawn.exitCode << drawn.errors << fault;
     return dom.documentElement();

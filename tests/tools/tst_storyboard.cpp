@@ -105,16 +105,16 @@ private Q_SLOTS:
     void refuses()
     {
         QFETCH(QByteArray, document);
-        const Drawn drawn = draw({}, {"-"}, document);
-        QVERIFY(drawn.svg.isEmpty());
+        const Said drawn = draw({}, {"-"}, document);
+        QVERIFY(drawn.output.isEmpty());
         QCOMPARE(drawn.exitCode, 2);
         QCOMPARE(drawn.errors.count('\n'), 1);
 
         // What has a root is drawn once it is mended.
-        const Drawn mended = draw({}, {"--mend"}, document);
+        const Said mended = draw({}, {"--mend"}, document);
         QCOMPARE(mended.exitCode, document.startsWith("<smil>") ? 0 : 2);
         QCOMPARE(mended.errors.count('\n'), 1);
-        QCOMPARE(faultIn(mended.svg).isEmpty(), mended.exitCode == 0);
+        QCOMPARE(faultIn(mended.output).isEmpty(), mended.exitCode == 0);
     }
 
     // Where a picture goes, and how the program ends.
@@ -144,27 +144,27 @@ private Q_SLOTS:
         const QByteArray document = "<smil><img src='b.png'/></smil>";
         const QByteArray before = "what was there";
         const QByteArray png("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\0\0\1\0\0\0\1\x08\2\0\0\0\x90wS\xde", 33);
-        const Drawn drawn =
+        const Said drawn =
             draw({{"a.smil", document}, {"out/a.svg", before}, {"more/b.png", png}}, arguments, document);
         QCOMPARE(drawn.exitCode, exitCode);
         QCOMPARE(drawn.errors.count('\n'), exitCode == 0 ? 0 : 1);
         for (const char c : drawn.errors.chopped(drawn.errors.isEmpty() ? 0 : 1))
             QVERIFY(static_cast<uchar>(c) >= ' ');
-        QCOMPARE(drawn.svg.contains("<use "), arguments.contains("--parts"));
+        QCOMPARE(drawn.output.contains("<use "), arguments.contains("--parts"));
         const bool isInFile = exitCode == 0 && arguments.contains("out/a.svg");
-        QCOMPARE(drawn.svg.startsWith("<?xml"), exitCode == 0 && !isInFile);
-        QCOMPARE(drawn.svg.endsWith("in a file: " + before), !isInFile);
-        QCOMPARE(drawn.svg.startsWith("in a file: <?xml"), isInFile);
+        QCOMPARE(drawn.output.startsWith("<?xml"), exitCode == 0 && !isInFile);
+        QCOMPARE(drawn.output.endsWith("in a file: " + before), !isInFile);
+        QCOMPARE(drawn.output.startsWith("in a file: <?xml"), isInFile);
     }
 
     // The picture in the README is what the demonstration draws.
     void readmeShowsThisPicture()
     {
-        const Drawn drawn = draw({}, {SOURCE_DIR "/examples/messages/picnic"});
-        QCOMPARE(faultIn(drawn.svg), QString());
+        const Said drawn = draw({}, {SOURCE_DIR "/examples/messages/picnic"});
+        QCOMPARE(faultIn(drawn.output), QString());
         QFile picture(SOURCE_DIR "/docs/images/storyboard.svg");
         QVERIFY(picture.open(QIODevice::ReadOnly));
-        QCOMPARE(drawn.svg, picture.readAll());
+        QCOMPARE(drawn.output, picture.readAll());
     }
 };
 

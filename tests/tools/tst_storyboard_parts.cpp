@@ -125,10 +125,10 @@ private Q_SLOTS:
             body += "<par><img src='" + name + "'/></par>";
         }
         files.insert("a.smil", "<smil><body>" + body + "</body></smil>");
-        const Drawn drawn = draw(files);
+        const Said drawn = draw(files);
         QCOMPARE(drawn.exitCode, 0);
-        QCOMPARE(drawn.svg.count("<image "), 8);
-        QCOMPARE(drawn.svg.count("<use "), 16);
+        QCOMPARE(drawn.output.count("<image "), 8);
+        QCOMPARE(drawn.output.count("<use "), 16);
     }
 
     // A text as a part: its lines, and which of them run from right to left.

@@ -44,6 +44,9 @@ class TestSmilinfo : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // The words of the system are in the transcript.
+    void initTestCase() { qputenv("LC_ALL", "C.UTF-8"); }
+
     // "=" begins a case with a folder of its own, "<" makes a file in it ("-": standard input), and "$" runs
     // the program there.
     void transcript()

@@ -11,6 +11,7 @@ Window {
     readonly property var slides: slideShow.slides
     readonly property var starts: startsOf(slides) // of the slides, and the end of the last; milliseconds
     readonly property real total: starts[slides.length]
+    readonly property real position: starts[current] + ms
     property int current: 0
     property real ms: 0 // from the start of the current slide
     property bool playing: slides.length > 0

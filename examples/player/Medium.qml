@@ -19,20 +19,14 @@ Item {
     readonly property bool present: medium.beginMs <= ms && ms < endMs
     readonly property int kind: medium.part >= 0 ? medium.kind : VySmilMedium.MEDIUM_OTHER
     readonly property bool isText: kind === VySmilMedium.MEDIUM_TEXT
-    readonly property color ink: isDark(medium.background.valid ? medium.background : paper) ? "white" : "#263238"
-
-    function isDark(color) { return Qt.tint(paper, color).hslLightness < 0.5 }
+    readonly property color own: medium.background.valid ? medium.background : "transparent"
 
     visible: present
     x: medium.rect.x * zoom; width: medium.rect.width * zoom
     y: medium.rect.y * zoom; height: medium.rect.height * zoom
     clip: true
 
-    Rectangle { // an invalid colour shows nothing
-        anchors.fill: parent
-        visible: place.medium.background.valid
-        color: place.medium.background
-    }
+    Rectangle { anchors.fill: parent; color: place.own }
     Image {
         id: picture
         readonly property size shown: place.medium.shownSize(Qt.size(implicitWidth, implicitHeight))
@@ -50,21 +44,17 @@ Item {
             id: caption
             width: parent.width
             text: place.isText ? place.message.text(place.medium.part) : ""
-            color: place.medium.foreground.valid ? place.medium.foreground : place.ink
+            readonly property bool onDark: Qt.tint(place.paper, place.own).hslLightness < 0.5
+            color: place.medium.foreground.valid ? place.medium.foreground : onDark ? "white" : "#263238"
         }
     }
-    Rectangle { // the name of what cannot be shown, which leaves in sight what is behind
+    Plain { // the name of what cannot be shown, which leaves in sight what is behind
         anchors.centerIn: parent
         visible: !place.isText && (picture.status === Image.Null || picture.status === Image.Error)
-        width: label.width + 16; height: label.height + 12; radius: 6
-        color: "#cfd8dc"
-        Plain {
-            id: label
-            anchors.centerIn: parent
-            width: Math.min(implicitWidth, place.width - 24)
-            maximumLineCount: 2; elide: Text.ElideRight
-            text: place.message.plain(place.medium.alt || place.medium.src)
-        }
+        width: Math.min(implicitWidth, place.width - 24)
+        maximumLineCount: 2; elide: Text.ElideRight
+        style: Text.Outline; styleColor: "white"
+        text: place.message.plain(place.medium.alt || place.medium.src)
     }
     Component.onCompleted: {
         const plays = kind === VySmilMedium.MEDIUM_AUDIO || kind === VySmilMedium.MEDIUM_VIDEO

@@ -3,6 +3,7 @@
 
 #include "message.h"
 
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
 
@@ -11,12 +12,13 @@
 int main(int argc, char *argv[])
 {
     QGuiApplication application(argc, argv);
-    if (QGuiApplication::arguments().size() != 2) {
+    const QString path = QGuiApplication::arguments().value(1);
+    if (!QFileInfo::exists(path)) {
         std::fputs("Usage: player FOLDER|SMIL\n", stderr);
         return 2;
     }
     Message::registerTypes();
-    Message message(QGuiApplication::arguments().constLast());
+    Message message(path);
     QQmlApplicationEngine engine;
     engine.addImageProvider(QStringLiteral("parts"), new Pictures(message));
     engine.setInitialProperties({{QStringLiteral("message"), QVariant::fromValue(&message)}});

@@ -27,24 +27,21 @@ Message::Message(const QString &path)
 {
     const QFileInfo chosen(path);
     const QDir folder(chosen.isDir() ? path : chosen.absolutePath());
+    QString smilFile = chosen.isDir() ? QString() : path;
     const QMimeDatabase types;
-    QString smilFile;
-    if (!chosen.isDir())
-        smilFile = chosen.absoluteFilePath();
     const auto files = folder.entryInfoList(QDir::Files | QDir::NoSymLinks, QDir::Name);
     for (const QFileInfo &file : files) {
         VySmilPart part;
         part.contentId = part.contentLocation = part.name = file.fileName();
-        part.contentType = types.mimeTypeForFile(file).name();
-        if (file.absoluteFilePath() == smilFile)
-            part.contentType = QStringLiteral("application/smil");
-        else if (smilFile.isEmpty() && part.isSmil())
-            smilFile = file.absoluteFilePath();
+        part.contentType =
+            file == chosen ? QStringLiteral("application/smil") : types.mimeTypeForFile(file).name();
+        if (smilFile.isEmpty() && part.isSmil())
+            smilFile = file.filePath();
         m_parts << part;
-        m_files << file.absoluteFilePath();
+        m_files << file.filePath();
     }
-    m_name = plain(folder.dirName());
-    read(smilFile, !chosen.isDir());
+    if (!read(smilFile))
+        m_slideShow.fromParts(m_parts);
 
     m_attachments = m_slideShow.unusedParts;
     for (const VySmilSlide &slide : m_slideShow.slides) {
@@ -55,48 +52,38 @@ Message::Message(const QString &path)
     }
 }
 
-void Message::read(const QString &smilFile, bool isChosen)
+bool Message::read(const QString &smilFile)
 {
     QFile file(smilFile);
-    VySmilElemSmil root;
-    if (smilFile.isEmpty()) {
-        m_notes << tr("There is no SMIL document: these are the files in their order.");
-    } else if (!file.open(QIODevice::ReadOnly)) {
-        m_notes << plain(file.errorString());
-    } else if (file.size() > longestDocument) {
-        m_notes << tr("The SMIL document is too long.");
-    } else {
-        const QString text = VySmilText::decode(file.readAll());
-        const VySmilTextFault fault = VySmilText::explain(text);
-        if (fault.reason != VySmilTextFault::FAULT_NONE)
-            m_notes << fault.toString();
-        if (VySmilParser::parse(VySmilText::mend(text), &root) == VySmil::RESULT_OK) {
-            const auto level = VySmilConformance::LEVEL_RELAXED;
-            const QList<VySmilFinding> findings = VySmilConformance::check(root, level, m_parts);
-            for (const VySmilFinding &finding : findings)
-                m_notes << finding.toString();
-            m_slideShow.fromTree(root, m_parts);
-            return;
-        }
+    if (smilFile.isEmpty() || !file.open(QIODevice::ReadOnly) || file.size() > longestDocument) {
+        m_notes << tr("No SMIL can be read: the files in their order.");
+        return false;
     }
-    if (!isChosen)
-        m_slideShow.fromParts(m_parts);
+    const QString text = VySmilText::decode(file.readAll());
+    const VySmilTextFault fault = VySmilText::explain(text);
+    if (fault.reason != VySmilTextFault::FAULT_NONE)
+        m_notes << fault.toString();
+    VySmilElemSmil root;
+    if (VySmilParser::parse(VySmilText::mend(text), &root) != VySmil::RESULT_OK)
+        return false;
+    const auto findings = VySmilConformance::check(root, VySmilConformance::LEVEL_RELAXED, m_parts);
+    for (const VySmilFinding &finding : findings)
+        m_notes << finding.toString();
+    m_slideShow.fromTree(root, m_parts);
+    return true;
 }
 
 QString Message::text(int part) const
 {
     QFile file(fileOf(part));
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return VySmilText::decode(file.read(longestText));
+    return file.open(QIODevice::ReadOnly) ? VySmilText::decode(file.read(longestText)) : QString();
 }
 
 QUrl Message::recording(int part) const
 {
     const QMimeType type = QMimeDatabase().mimeTypeForFile(fileOf(part), QMimeDatabase::MatchContent);
-    if (!type.isValid() || type.inherits(QStringLiteral("text/plain")))
-        return {};
-    return QUrl::fromLocalFile(fileOf(part));
+    const bool isText = !type.isValid() || type.inherits(QStringLiteral("text/plain"));
+    return isText ? QUrl() : QUrl::fromLocalFile(fileOf(part));
 }
 
 QString Message::plain(const QString &text)

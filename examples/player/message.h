@@ -15,7 +15,6 @@
 class Message : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(QString name MEMBER m_name CONSTANT)
     Q_PROPERTY(VySmilSlideShow slideShow MEMBER m_slideShow CONSTANT)
     Q_PROPERTY(QList<VySmilPart> parts MEMBER m_parts CONSTANT)
     Q_PROPERTY(QList<int> attachments MEMBER m_attachments CONSTANT)
@@ -26,7 +25,7 @@ public:
     static void registerTypes();
 
     /// Opens the folder \a path, or the SMIL document \a path with the files beside it. Links are not
-    /// followed. What is no message has no slides, and a note that says why.
+    /// followed. Without a document that can be read, the slides show the files, and a note says why.
     explicit Message(const QString &path);
 
     /// The file of a part; empty if there is no such part.
@@ -40,9 +39,8 @@ public:
     [[nodiscard]] Q_INVOKABLE static QString plain(const QString &text);
 
 private:
-    void read(const QString &smilFile, bool isChosen);
+    bool read(const QString &smilFile);
 
-    QString m_name;
     VySmilSlideShow m_slideShow;
     QList<VySmilPart> m_parts;
     QStringList m_files;      // of the parts, in their order

@@ -114,6 +114,15 @@ class TestPlayer : public QObject
 {
     Q_OBJECT
 
+    void write(const QString &name, const QByteArray &content) const
+    {
+        QFile file(m_folder.filePath(name));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+    }
+
+    QTemporaryDir m_outside;
+    QDir m_folder{m_outside.filePath(QStringLiteral("message"))};
+
 public:
     // Without a screen, and the same on each machine.
     static void initMain()
@@ -127,16 +136,6 @@ private Q_SLOTS:
     void shows_data();
     void shows();
     void plays();
-
-private:
-    void write(const QString &name, const QByteArray &content) const
-    {
-        QFile file(m_folder.filePath(name));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-    }
-
-    QTemporaryDir m_outside;
-    QDir m_folder{m_outside.filePath(QStringLiteral("message"))};
 };
 
 // All messages have the same parts, of which they use some.

@@ -188,20 +188,6 @@ void benchThreads(benchmark::State &state)
     compare(state, two, many, "one thread with half of the work", 1.2);
 }
 
-struct HeapUse
-{
-    double left;
-    double peak;
-};
-
-template <typename Work>
-HeapUse heapUse(Work work)
-{
-    const HeapWatch watch;
-    const auto result = work();
-    return {watch.inUse(), watch.peak()};
-}
-
 HeapUse heapOfTree(const QString &text)
 {
     return heapUse([&text] {
@@ -221,7 +207,7 @@ void benchMemory(benchmark::State &state)
     });
     for (auto _ : state)
         state.SetIterationTime(1);
-    report(state, heapOfTree(text).left / dom.left, "heap of its QDomDocument", 0.25);
+    report(state, heapOfTree(text).inUse / dom.inUse, "heap of its QDomDocument", 0.25);
 }
 
 void benchPeak(benchmark::State &state)
@@ -229,7 +215,7 @@ void benchPeak(benchmark::State &state)
     const HeapUse tree = heapOfTree(message(3'000));
     for (auto _ : state)
         state.SetIterationTime(1);
-    report(state, tree.peak / tree.left, "heap of the tree", 2.0);
+    report(state, tree.peak / tree.inUse, "heap of the tree", 2.0);
 }
 
 const bool registered = [] {

@@ -5,7 +5,8 @@
 
 #include "comparison.h"
 
-#include "../tests/support/drawinggrowth.h"
+#include "../tests/support/growth.h"
+#include "../tools/storyboard/drawing.h"
 
 #include <algorithm>
 #include <ctime>
@@ -33,12 +34,14 @@ double leastTime(const GrowthOperation &operation, const Grown &grown)
 void benchShape(benchmark::State &state, const GrowthShape &shape)
 {
     const qsizetype pieces = std::max<qsizetype>(4, textSize / shape.piece.size());
-    const Grown small(shape, pieces);
-    const Grown large(shape, 4 * pieces);
+    const Grown small{MessageCase(shape.messageText(pieces))};
+    const Grown large{MessageCase(shape.messageText(4 * pieces))};
+    std::vector<GrowthOperation> operations = growthOperations();
+    operations.emplace_back("drawing", [](const Grown &grown) { (void)drawingOf(grown.show); });
     double worst = 0;
     std::string name;
     for (auto _ : state) {
-        for (const GrowthOperation &operation : growthOperationsAndDrawing()) {
+        for (const GrowthOperation &operation : operations) {
             const double time = leastTime(operation, large);
             const double ratio = time / std::max(leastTime(operation, small), shortest / 4);
             if (time >= shortest && ratio > worst) {
@@ -53,7 +56,7 @@ void benchShape(benchmark::State &state, const GrowthShape &shape)
 
 const bool registered = [] {
     for (const GrowthShape &shape : growthShapes()) {
-        const std::string name = std::string("growth: ") + shape.name;
+        const std::string name = "growth: " + shape.name().toStdString();
         benchmark::RegisterBenchmark(name.c_str(), benchShape, shape)->UseManualTime()->Iterations(1);
     }
     return true;

@@ -19,7 +19,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
     const QString text = QString::fromUtf8(reinterpret_cast<const char *>(data), qsizetype(size));
     for (const MessageCase &message : MessageCase::casesOf(text)) {
         if (size > large) {
-            const Grown grown(message.smil(), message.parts);
+            const Grown grown(message);
             for (const GrowthOperation &operation : growthOperations())
                 operation.second(grown);
             continue;

@@ -22,17 +22,12 @@ int main(int argc, char **argv)
     constexpr qsizetype size = 65'000;
     int number = 0;
     for (const GrowthShape &shape : growthShapes()) {
-        const QString part = shape.part == nullptr ? QString() : QString::fromLatin1(shape.part) + u'\n';
-        const qsizetype ofPiece = GrowthShape::numbered(shape.piece + part, 0).toUtf8().size();
+        const qsizetype ofPiece = GrowthShape::repeated(shape.piece + shape.part, 1).toUtf8().size();
         const qsizetype pieces = (size - shape.text(0).size()) / ofPiece;
-        QString parts;
-        for (qsizetype i = 0; !part.isEmpty() && i < pieces; ++i)
-            parts += GrowthShape::numbered(part, i);
         const QString text = shape.text(pieces);
         const QString name = QString::number(++number);
         write("document", name, text + u'a'); // the last byte says how to read
-        write("message", name,
-              QStringLiteral("=== large\n") + text + QStringLiteral("\n--- parts\n") + parts);
+        write("message", name, QStringLiteral("=== ") + shape.messageText(pieces));
         write("text", name, text);
         write("values", name, shape.piece.repeated(pieces));
     }

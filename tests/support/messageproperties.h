@@ -14,88 +14,97 @@
 
 // What holds of any message. Each function says what does not, and nothing where all does.
 
-/// The elements below \a elem in document order, of a "switch" only the first child.
-inline void collectShown(const VySmilElemBase &elem, QList<const VySmilElemBase *> &all)
+inline QString firstFault(std::initializer_list<std::pair<bool, const char *>> faults)
 {
-    all << &elem;
-    const bool isSwitch = elem.getElemType() == "switch";
+    for (const auto &[isBroken, fault] : faults) {
+        if (isBroken)
+            return fault;
+    }
+    return {};
+}
+
+inline QList<VySmilMedium> mediaOf(const VySmilSlideShow &show)
+{
+    QList<VySmilMedium> media;
+    for (const VySmilSlide &slide : show.slides)
+        media << slide.media;
+    return media;
+}
+
+/// The media below \a elem in document order, of a "switch" only those of the first child.
+inline void collectMedia(const VySmilElemBase &elem, QList<const VySmilElemBase *> &media)
+{
+    if (QStringList{"img", "text", "audio", "video", "ref"}.contains(elem.getElemType()))
+        media << &elem;
+    const bool isSmilWithBody = elem.getElemType() == "smil" && elem.getSubElementCounts("body") > 0;
     for (const VySmilElemBase *child : *elem.getSubElements()) {
-        collectShown(*child, all);
-        if (isSwitch)
+        if (!isSmilWithBody || child->getElemType() == "body")
+            collectMedia(*child, media);
+        if (elem.getElemType() == "switch")
             return;
     }
 }
 
-inline QList<const VySmilElemBase *> mediaBelow(const VySmilElemSmil &root)
+/// The sorts of a medium by its kind, of which a slide is to have one each, as bits: picture, text, sound.
+inline constexpr int sortsOf[] = {1, 2, 4, 1 | 4, 0};
+
+inline bool hasMediaOfOneSort(const VySmilSlide &slide)
 {
-    QList<const VySmilElemBase *> all;
-    const bool hasBody = root.getSubElementCounts("body") > 0;
-    for (const VySmilElemBase *child : *root.getSubElements()) {
-        if (!hasBody || child->getElemType() == "body")
-            collectShown(*child, all);
-    }
-    const QStringList media{"img", "text", "audio", "video", "ref"};
-    const auto isNone = [&](const VySmilElemBase *elem) { return !media.contains(elem->getElemType()); };
-    all.erase(std::remove_if(all.begin(), all.end(), isNone), all.end());
-    return all;
+    int sorts = 0;
+    return std::any_of(slide.media.begin(), slide.media.end(), [&sorts](const VySmilMedium &medium) {
+        const int others = std::exchange(sorts, sorts | sortsOf[medium.kind]);
+        return (others & sortsOf[medium.kind]) != 0;
+    });
 }
 
 inline QString brokenInMedium(const VySmilMedium &medium, const VySmilSlide &slide, const QSize &size,
                               const QList<VySmilPart> &parts)
 {
-    const QString type = medium.elem->getElemType();
-    const bool isVisible = (sortsOf(medium.kind) & 3) != 0;
-    const bool isAudio = medium.kind == VySmilMedium::MEDIUM_AUDIO;
-    const QList<int> fits = medium.src.trimmed().isEmpty() ? QList<int>() : partsThatFit(medium.src, parts);
-    const int kind = medium.part < 0 ? -1 : kindOfType(parts.at(medium.part));
-    const int usual = int(QStringList{"img", "text", "audio", "video", "ref"}.indexOf(type));
-    if (medium.rect != (medium.area & QRect(QPoint(0, 0), size)))
-        return "a rectangle that is not the area cut to the root layout";
-    if (medium.rect.isNull() ? isVisible : isAudio || medium.rect.isEmpty())
-        return "a medium without a place, or a sound with one";
-    if (medium.rect.isNull() && (medium.regionElem || !medium.fit.isEmpty() || medium.background.isValid() ||
-                                 medium.guesses.testFlag(VySmilMedium::GUESS_REGION)))
-        return "something of a region without a place";
-    if (medium.foreground.isValid() && medium.kind != VySmilMedium::MEDIUM_TEXT)
-        return "a foreground of something else than text";
-    if (medium.beginMs < 0 || slide.durationMs < medium.beginMs)
-        return "a begin outside of the slide";
-    if (medium.endMs != -1 && (medium.endMs < medium.beginMs || slide.durationMs <= medium.endMs))
-        return "an end outside of the slide, or before the begin";
-    if (medium.part != fits.value(0, -1))
-        return "another part than the first that fits: " + medium.src;
-    if (medium.kind != (kind >= 0 ? kind : usual))
-        return "another kind than that of its part: " + medium.src;
-    if (medium.guesses.testFlag(VySmilMedium::GUESS_PART) !=
-        (!parts.isEmpty() && medium.part < 0 && !medium.src.trimmed().isEmpty()))
-        return "a part that was guessed, or not: " + medium.src;
-    return medium.guesses.testFlag(VySmilMedium::GUESS_SIZE) ? "a size guessed by a medium" : QString();
+    const auto isGuessed = [&medium](auto guess) { return medium.guesses.testFlag(guess); };
+    const int sorts = sortsOf[medium.kind];
+    const bool isNamed = !medium.src.trimmed().isEmpty();
+    const bool hasPlace = !medium.rect.isNull();
+    const bool hasRegion = medium.regionElem || !medium.fit.isEmpty() || medium.background.isValid() ||
+                           isGuessed(VySmilMedium::GUESS_REGION);
+    const bool hasUnknownPart = isNamed && medium.part < 0 && !parts.isEmpty();
+    const qint32 end = medium.endMs == -1 ? slide.durationMs - 1 : medium.endMs;
+    return firstFault({
+        {medium.rect != (medium.area & QRect(QPoint(0, 0), size)),
+         "a place that is not the area cut to the root"},
+        {hasPlace ? sorts == 4 || medium.rect.isEmpty() : (sorts & 3) != 0,
+         "a sound's place, or no picture's"},
+        {!hasPlace && hasRegion, "something of a region without a place"},
+        {medium.foreground.isValid() && sorts != 2, "a foreground of something else than text"},
+        {medium.beginMs < 0 || slide.durationMs < medium.beginMs, "a begin outside of the slide"},
+        {(medium.endMs != -1 && end < medium.beginMs) || slide.durationMs <= end,
+         "an end outside of the slide, or before the begin"},
+        {medium.part != partsThatFit(medium.src, parts).value(0, -1),
+         "another part than the first that fits"},
+        {isGuessed(VySmilMedium::GUESS_PART) != hasUnknownPart, "a part that was guessed, or not"},
+        {isGuessed(VySmilMedium::GUESS_SIZE), "a size guessed by a medium"},
+    });
 }
 
 inline QString brokenInSlides(const VySmilElemSmil &root, const MessageCase &message,
                               const VySmilSlideShow &show)
 {
     QSet<int> used;
-    QList<const VySmilElemBase *> shown;
-    if (QRect(1, 1, 65'535, 65'535).intersected(QRect(QPoint(1, 1), show.size)).size() != show.size ||
-        show.size.isEmpty())
-        return "a size out of bounds";
-    if (show.guesses == VySmilMedium::GUESS_SCREEN || (show.guesses & ~VySmilMedium::GUESSES(17)))
-        return "a guess that no slide show has";
     for (const VySmilSlide &slide : show.slides) {
-        if (slide.durationMs <= 0 || (slide.guesses & ~VySmilMedium::GUESSES(VySmilMedium::GUESS_TIME)))
-            return "a slide without a duration, or with a guess that none has";
         const QList<qint32> instants = slide.instants();
-        if (instants.first() != 0 || instants.last() != slide.durationMs ||
-            std::adjacent_find(instants.begin(), instants.end(), std::greater_equal<>()) != instants.end())
-            return "instants out of order";
+        QString broken = firstFault({
+            {slide.durationMs <= 0, "a slide without a duration"},
+            {slide.guesses & ~VySmilMedium::GUESSES(VySmilMedium::GUESS_TIME), "a guess that no slide has"},
+            {instants.first() != 0 || instants.last() != slide.durationMs ||
+                 std::adjacent_find(instants.begin(), instants.end(), std::greater_equal<>()) !=
+                     instants.end(),
+             "instants out of order"},
+        });
         for (const VySmilMedium &medium : slide.media) {
-            const QString broken = brokenInMedium(medium, slide, show.size, message.parts);
-            if (!broken.isEmpty())
-                return broken;
-            shown << medium.elem;
+            broken += brokenInMedium(medium, slide, show.size, message.parts);
             used << medium.part;
         }
+        if (!broken.isEmpty())
+            return broken;
     }
     for (int i = 0; i < message.parts.size(); ++i) {
         if (used.contains(i) + show.unusedParts.contains(i) + message.parts.at(i).isSmil() != 1)
@@ -105,187 +114,136 @@ inline QString brokenInSlides(const VySmilElemSmil &root, const MessageCase &mes
     copied.copyFrom(root);
     VySmilSlideShow again;
     again.fromTree(copied, message.parts, message.options);
-    if (again != show || !std::is_sorted(show.unusedParts.begin(), show.unusedParts.end()))
-        return "a copy of the tree shows otherwise";
-    const QList<const VySmilElemBase *> written = mediaBelow(root);
-    // Qt's == hands the null pointer of an empty list to memcmp.
-    return std::equal(written.begin(), written.end(), shown.begin(), shown.end())
-               ? QString()
-               : "a medium in no slide, in two, or out of order";
+    QList<const VySmilElemBase *> written;
+    collectMedia(root, written);
+    const QList<VySmilMedium> shown = mediaOf(show);
+    const auto isSame = [](const VySmilElemBase *elem, const auto &medium) { return elem == medium.elem; };
+    return firstFault({
+        {show.size.isEmpty() || show.size.boundedTo(QSize(65'535, 65'535)) != show.size,
+         "a size out of bounds"},
+        {show.guesses == VySmilMedium::GUESS_SCREEN || (show.guesses & ~VySmilMedium::GUESSES(17)),
+         "a guess that no slide show has"},
+        {again != show, "a copy of the tree shows otherwise"},
+        {!std::is_sorted(show.unusedParts.begin(), show.unusedParts.end()), "unused parts out of order"},
+        {!std::equal(written.begin(), written.end(), shown.begin(), shown.end(), isSame),
+         "a medium in no slide, in two, or out of order"},
+    });
 }
 
-inline QString usualFit(const QString &fit)
+/// What writing must keep of \a show; the references are another matter.
+inline QString keptText(const VySmilSlideShow &show)
 {
     static const QStringList fits{"fill", "hidden", "meet", "scroll", "slice"};
-    return fits.contains(fit.trimmed()) ? fit.trimmed() : QString();
-}
-
-/// What writing must keep of \a show, whose references \a again may have changed.
-inline QString keptText(const VySmilSlideShow &show, const VySmilSlideShow &again)
-{
     QString text = QString("%1x%2").arg(show.size.width()).arg(show.size.height());
-    for (int i = 0; i < show.slides.size(); ++i) {
-        text += QString("\nslide %1").arg(show.slides.at(i).durationMs);
-        for (int k = 0; k < show.slides.at(i).media.size(); ++k) {
-            VySmilMedium medium = show.slides.at(i).media.at(k);
-            medium.src = again.slides.value(i).media.value(k).src;
+    for (const VySmilSlide &slide : show.slides) {
+        text += QString("\nslide %1").arg(slide.durationMs);
+        for (VySmilMedium medium : slide.media) {
+            const QString fit = medium.fit.trimmed();
+            medium.src.clear();
             medium.alt = medium.alt.trimmed();
-            text += QString("\n %1 part %2 ").arg(mediumText(medium)).arg(medium.part) + usualFit(medium.fit);
+            text += QString("\n%1 part %2 ").arg(mediumText(medium)).arg(medium.part);
+            text += fits.contains(fit) ? fit : QString();
         }
     }
     return text;
 }
 
-/// Whether what was written of \a show is to pass the strict check: slides have a medium and one of a sort,
-/// all are there for some time, references are good, and regions at most two.
-inline bool fitsProfile(const VySmilSlideShow &show, const VySmilSlideShow &again,
-                        const VySmilElemSmil &written, const QList<VySmilPart> &parts)
-{
-    const VySmilElemBase *head = written.getSubElements()->at(0);
-    const VySmilElemBase *layout = head->getSubElements()->at(head->getSubElements()->count() - 1);
-    for (int i = 0; i < show.slides.size(); ++i) {
-        const VySmilSlide &slide = show.slides.at(i);
-        for (int k = 0; k < slide.media.size(); ++k) {
-            const VySmilMedium &medium = slide.media.at(k);
-            const QString src = again.slides.at(i).media.at(k).src;
-            if (slide.endOf(medium) <= medium.beginMs ||
-                (parts.isEmpty() ? !isPrintable(src) : !isGoodReference(src, medium.part, parts)))
-                return false;
-        }
-        if (slide.media.isEmpty() || hasMediaOfOneSort(slide))
-            return false;
-    }
-    return !show.slides.isEmpty() && layout->getSubElementCounts("region") <= 2;
-}
-
 /// Writes \a show and reads it again.
 inline QString brokenInWriting(const MessageCase &message, const VySmilSlideShow &show)
 {
-    VySmilElemSmil tree;
-    show.toTree(&tree, message.parts);
+    const QList<VySmilPart> &parts = message.parts;
+    VySmilElemSmil tree, root, twice;
     QString text;
-    VySmilElemSmil root;
+    show.toTree(&tree, parts);
     if (VySmilParser::assemble(&tree, text, true) != 0 || VySmilParser::parse(text, &root, true) != 0)
         return "what was written is not strict-clean";
     VySmilSlideShow again;
-    again.fromTree(root, message.parts, message.options);
-    if (keptText(again, again) != keptText(show, again))
-        return "what was written shows otherwise:\n" + slidesText(show) + u'\n' + slidesText(again);
-    for (int i = 0; i < show.slides.size(); ++i) {
-        for (int k = 0; k < show.slides.at(i).media.size(); ++k) {
-            const QString src = show.slides.at(i).media.at(k).src;
-            const int part = show.slides.at(i).media.at(k).part;
-            const VySmilMedium &medium = again.slides.at(i).media.at(k);
-            const bool isGood = isGoodReference(src, part, message.parts);
-            if (medium.src != src.trimmed() &&
-                (part < 0 || isGood || partsThatFit(medium.src, message.parts).size() != 1))
-                return "a reference that was changed: " + src + " to " + medium.src;
-            if (medium.guesses.testFlag(VySmilMedium::GUESS_TIME) ||
-                medium.guesses.testFlag(VySmilMedium::GUESS_REGION))
-                return "what was written leaves something to guess";
-        }
-    }
-    VySmilElemSmil twice;
-    again.toTree(&twice, message.parts);
+    again.fromTree(root, parts, message.options);
+    again.toTree(&twice, parts);
     if (treeText(twice) != treeText(root))
         return "what is written twice differs:\n" + treeText(root) + u'\n' + treeText(twice);
-    const auto findings = VySmilConformance::check(root, VySmilConformance::LEVEL_STRICT, message.parts);
-    if (!findings.isEmpty() && fitsProfile(show, again, root, message.parts))
-        return "what was written: " + findings.first().toString();
-    return QString();
-}
+    if (keptText(again) != keptText(show))
+        return "what was written shows otherwise:\n" + slidesText(show) + u'\n' + slidesText(again);
 
-inline bool isNotOneLine(QChar c)
-{
-    const char16_t u = c.unicode();
-    return u < u' ' || (u >= 0x7f && u < 0xa0) || u == 0x61c || u == 0x200e || u == 0x200f ||
-           (u >= 0x2028 && u <= 0x202e) || (u >= 0x2066 && u <= 0x2069);
+    QSet<VySmilFinding::RULE> excused; // what is wrong with the slides is so when they are written
+    if (treeText(root).count("region[") > 2)
+        excused << VySmilFinding::RULE_REGION_ID << VySmilFinding::RULE_STRUCTURE;
+    if (show.slides.isEmpty())
+        excused << VySmilFinding::RULE_STRUCTURE;
+    for (const VySmilSlide &slide : std::as_const(again.slides)) {
+        if (slide.media.isEmpty())
+            excused << VySmilFinding::RULE_STRUCTURE;
+        if (hasMediaOfOneSort(slide))
+            excused << VySmilFinding::RULE_MEDIA_COUNT;
+        for (const VySmilMedium &medium : slide.media) {
+            if (slide.endOf(medium) <= medium.beginMs)
+                excused << VySmilFinding::RULE_NEVER_SHOWN;
+            if (parts.isEmpty() ? !isPrintable(medium.src) : !isGoodReference(medium.src, medium.part, parts))
+                excused << VySmilFinding::RULE_SOURCE;
+        }
+    }
+    for (const auto &finding : VySmilConformance::check(root, VySmilConformance::LEVEL_STRICT, parts)) {
+        if (!excused.contains(finding.rule))
+            return "what was written: " + finding.toString();
+    }
+    const QList<VySmilMedium> before = mediaOf(show);
+    const QList<VySmilMedium> after = mediaOf(again);
+    for (int i = 0; i < after.size(); ++i) {
+        const QString src = before.at(i).src;
+        const int part = before.at(i).part;
+        if (after.at(i).src != src.trimmed() && (part < 0 || isGoodReference(src, part, parts) ||
+                                                 partsThatFit(after.at(i).src, parts).size() != 1))
+            return "a reference that was changed: " + src + " to " + after.at(i).src;
+        if (after.at(i).guesses & ~VySmilMedium::GUESSES(VySmilMedium::GUESS_PART))
+            return "what was written leaves something to guess";
+    }
+    return {};
 }
 
 inline QString brokenInChecks(const VySmilElemSmil &root, const QList<VySmilPart> &parts)
 {
+    static const QRegularExpression control(
+        "[\\p{Cc}\\x{61C}\\x{200E}\\x{200F}\\x{2028}-\\x{202E}\\x{2066}-\\x{2069}]");
+    static const QRegularExpression relaxed("^.[EW]");
     const auto strict = VySmilConformance::check(root, VySmilConformance::LEVEL_STRICT, parts);
-    if (strict != VySmilConformance::check(root, VySmilConformance::LEVEL_STRICT, parts))
-        return "two checks of the same differ";
-    for (int i = 0; i < strict.size(); ++i) {
-        const VySmilFinding &finding = strict.at(i);
-        const QString line = finding.toString();
-        if (!line.startsWith(finding.path + u':') || std::any_of(line.begin(), line.end(), isNotOneLine))
-            return "a finding that is not a line behind its path: " + line;
-        if (i > 0 && strict.at(i - 1).elem == finding.elem &&
-            std::pair(finding.attribute, finding.rule) <=
-                std::pair(strict.at(i - 1).attribute, strict.at(i - 1).rule))
-            return "findings out of order, or twice: " + line;
-    }
-    for (const VySmilFinding &finding :
-         VySmilConformance::check(root, VySmilConformance::LEVEL_RELAXED, parts)) {
-        const auto isGraver = [&finding](const VySmilFinding &other) {
-            return other.rule == finding.rule && other.elem == finding.elem &&
-                   other.attribute == finding.attribute && other.severity <= finding.severity;
-        };
-        if (std::none_of(strict.begin(), strict.end(), isGraver))
-            return "relaxed finds more than strict: " + finding.toString();
-    }
-    return QString();
-}
-
-/// Whether something of the message is beyond what phones can be told: a region that is not on the screen,
-/// times of weeks.
-inline bool isBeyond(const VySmilElemSmil &root, const VySmilSlideShow &show)
-{
-    QList<const VySmilElemBase *> all{&root};
-    QSet<QString> ids;
-    for (int i = 0; i < all.size(); ++i) {
-        if (all.at(i)->getElemType() == "region")
-            ids << all.at(i)->getAttribute("id");
-        for (const VySmilElemBase *child : *all.at(i)->getSubElements())
-            all << child;
-    }
-    for (const VySmilSlide &slide : show.slides) {
-        for (const VySmilMedium &medium : slide.media) {
-            if ((medium.guesses.testFlag(VySmilMedium::GUESS_REGION) && ids.contains(medium.region)) ||
-                medium.beginMs == std::numeric_limits<qint32>::max())
-                return true;
-        }
-    }
-    return false;
+    const auto count = VySmilConformance::check(root, VySmilConformance::LEVEL_RELAXED, parts).size();
+    const QStringList lines = findingsText(root, parts).split(u'\n', Qt::SkipEmptyParts);
+    const auto isOutOfOrder = [](const VySmilFinding &a, const VySmilFinding &b) {
+        return a.elem == b.elem && std::tie(b.attribute, b.rule) <= std::tie(a.attribute, a.rule);
+    };
+    return firstFault({
+        {lines.size() != strict.size() || lines.join(u' ').contains(control), "a finding that is not a line"},
+        {lines.filter(relaxed).size() != count || (u'\n' + lines.join(u'\n')).contains("\nWE"),
+         "relaxed is not"},
+        {std::adjacent_find(strict.begin(), strict.end(), isOutOfOrder) != strict.end(),
+         "findings out of order"},
+    });
 }
 
 inline QString brokenInSplitting(const MessageCase &message, const VySmilSlideShow &show)
 {
     VySmilSlideShow split = show;
     split.splitSlides();
-    QList<const VySmilElemBase *> before, after;
     for (const VySmilSlide &slide : show.slides) {
-        for (const VySmilMedium &medium : slide.media)
-            before << medium.elem;
         if (!hasMediaOfOneSort(slide) && !split.slides.contains(slide))
             return "a slide changed that was not to be split";
     }
-    for (const VySmilSlide &slide : std::as_const(split.slides)) {
-        for (const VySmilMedium &medium : slide.media)
-            after << medium.elem;
-        if (hasMediaOfOneSort(slide))
-            return "two of a sort after splitting";
-    }
-    std::sort(before.begin(), before.end());
-    std::sort(after.begin(), after.end());
+    const QList<VySmilMedium> before = mediaOf(show);
+    const QList<VySmilMedium> after = mediaOf(split);
+    const auto isSame = [](const VySmilMedium &a, const VySmilMedium &b) { return a.elem == b.elem; };
     VySmilSlideShow laidOut = split;
     laidOut.layOut();
     VySmilSlideShow again = laidOut;
     again.splitSlides();
     again.layOut();
-    if (before != after || again != laidOut)
-        return "splitting loses media, or is not done once";
-    VySmilElemSmil root;
-    laidOut.toTree(&root, message.parts);
-    for (const VySmilFinding &finding :
-         VySmilConformance::check(root, VySmilConformance::LEVEL_STRICT, message.parts)) {
-        if (finding.rule >= VySmilFinding::RULE_REGION_ID && finding.rule <= VySmilFinding::RULE_TIME_FORM)
-            return "split and laid out: " + finding.toString();
-    }
-    const QString broken = brokenInWriting(message, split);
-    return broken.isEmpty() ? brokenInWriting(message, laidOut) : broken;
+    const QString broken = firstFault({
+        {std::any_of(split.slides.begin(), split.slides.end(), hasMediaOfOneSort),
+         "two of a sort after splitting"},
+        {!std::is_permutation(before.begin(), before.end(), after.begin(), after.end(), isSame),
+         "splitting loses media"},
+        {again != laidOut, "splitting is not done once"},
+    });
+    return broken + brokenInWriting(message, split) + brokenInWriting(message, laidOut);
 }
 
 inline QString brokenInMessage(const VySmilElemSmil &root, const MessageCase &message)
@@ -294,75 +252,69 @@ inline QString brokenInMessage(const VySmilElemSmil &root, const MessageCase &me
     const int result = show.fromTree(root, message.parts, message.options);
     if ((result == VySmil::RESULT_OK) == show.slides.isEmpty())
         return "another result than there are slides";
-    for (const QString &broken : {brokenInSlides(root, message, show), brokenInWriting(message, show),
-                                  brokenInSplitting(message, show), brokenInChecks(root, message.parts)}) {
-        if (!broken.isEmpty())
-            return broken;
-    }
+    const QString broken = brokenInSlides(root, message, show) + brokenInWriting(message, show) +
+                           brokenInSplitting(message, show) + brokenInChecks(root, message.parts);
+    const QList<VySmilMedium> media = mediaOf(show);
+    // A region that is not on the screen, or times of weeks.
+    if (!broken.isEmpty() || std::any_of(media.begin(), media.end(), [](const VySmilMedium &medium) {
+            return medium.guesses.testFlag(VySmilMedium::GUESS_REGION) ||
+                   medium.beginMs == std::numeric_limits<qint32>::max();
+        }))
+        return broken;
     VySmilElemSmil written;
     show.toTree(&written, message.parts);
     for (const auto level : {VySmilConformance::LEVEL_STRICT, VySmilConformance::LEVEL_RELAXED}) {
-        if (!VySmilConformance::check(root, level, message.parts).isEmpty() || isBeyond(root, show))
-            continue;
         const auto findings = VySmilConformance::check(written, level, message.parts);
-        if (!findings.isEmpty())
+        if (!findings.isEmpty() && VySmilConformance::check(root, level, message.parts).isEmpty())
             return "repaired what was clean: " + findings.first().toString();
     }
-    return QString();
+    return {};
 }
 
-inline QString brokenInNames(const QList<VySmilPart> &brought, const QList<VySmilPart> &parts)
+/// What parts become that are named and composed.
+inline QString brokenInParts(const MessageCase &message)
 {
+    MessageCase named = message;
+    VySmilPart::nameAll(named.parts);
+    const QList<VySmilPart> &parts = named.parts;
+    const auto isReferred = [&parts](int part) {
+        return isGoodReference(parts.at(part).contentLocation.trimmed(), part, parts) ||
+               isGoodReference("cid:" + fieldOf(parts.at(part), 0), part, parts);
+    };
     for (int i = 0; i < parts.size(); ++i) {
+        const VySmilPart &brought = message.parts.at(i);
         VySmilPart part = parts.at(i);
-        const auto isReferred = [&](const VySmilPart &named) {
-            return isGoodReference(named.contentLocation.trimmed(), i, parts) ||
-                   isGoodReference("cid:" + fieldOf(named, 0), i, parts);
-        };
-        const bool isNamed = part.contentId != brought.at(i).contentId ||
-                             part.contentLocation != brought.at(i).contentLocation;
-        const bool isFull = !brought.at(i).contentId.trimmed().isEmpty() &&
-                            !brought.at(i).contentLocation.trimmed().isEmpty();
-        if (brought.at(i).contentId.trimmed().isEmpty())
-            part.contentId = brought.at(i).contentId;
-        if (brought.at(i).contentLocation.trimmed().isEmpty())
-            part.contentLocation = brought.at(i).contentLocation;
-        if (part != brought.at(i))
-            return QString("part %1 was changed").arg(i);
-        if (part.isSmil() ? isNamed : !isFull && !isReferred(parts.at(i)))
+        const bool isFull =
+            !brought.contentId.trimmed().isEmpty() && !brought.contentLocation.trimmed().isEmpty();
+        if (part.isSmil() ? part != brought : !isFull && !isReferred(i))
             return QString("part %1 is named, or not").arg(i);
+        if (brought.contentId.trimmed().isEmpty())
+            part.contentId = brought.contentId;
+        if (brought.contentLocation.trimmed().isEmpty())
+            part.contentLocation = brought.contentLocation;
+        if (part != brought)
+            return QString("part %1 was changed").arg(i);
     }
     QList<VySmilPart> twice = parts;
     VySmilPart::nameAll(twice);
-    return twice == parts ? QString() : "named twice otherwise";
-}
-
-inline QString brokenInParts(const MessageCase &message)
-{
-    QList<VySmilPart> parts = message.parts;
-    VySmilPart::nameAll(parts);
-    QString broken = brokenInNames(message.parts, parts);
+    VySmilSlideShow show;
+    const int result = show.fromParts(parts, message.options);
+    const QString broken = firstFault({
+        {twice != parts, "named twice otherwise"},
+        {(result == VySmil::RESULT_OK) == show.slides.isEmpty(), "another result than there are slides"},
+        {std::any_of(show.slides.begin(), show.slides.end(), hasMediaOfOneSort), "two of a sort in a slide"},
+    });
     if (!broken.isEmpty())
         return broken;
-    VySmilSlideShow show;
-    if ((show.fromParts(parts, message.options) == VySmil::RESULT_OK) == show.slides.isEmpty())
-        return "another result than there are slides of parts";
-    bool isPromised = !show.slides.isEmpty();
-    for (const VySmilSlide &slide : std::as_const(show.slides)) {
-        for (const VySmilMedium &medium : slide.media) {
-            if (!isGoodReference(medium.src, medium.part, parts))
-                isPromised = false; // brought both, and neither is good
-        }
+    bool isGood = true;
+    for (const VySmilMedium &medium : mediaOf(show)) {
+        isGood = isGood && isReferred(medium.part);
+        if (isReferred(medium.part) && !isGoodReference(medium.src, medium.part, parts))
+            return "parts are called by a name that is not good: " + medium.src;
     }
-    MessageCase named;
-    named.parts = parts;
-    named.options = message.options;
     VySmilElemSmil root;
     show.toTree(&root, parts);
-    const auto findings = VySmilConformance::check(root, VySmilConformance::LEVEL_STRICT, parts);
-    if (isPromised && !findings.isEmpty())
-        return "slides of parts: " + findings.first().toString();
-    return brokenInMessage(root, named);
+    return (isGood ? brokenInWriting(named, show) : QString()) + brokenInMessage(root, named);
 }
 
 #endif

@@ -27,12 +27,8 @@ QString composedText(const MessageCase &message)
 QString writtenText(const VySmilSlideShow &show, const QList<VySmilPart> &parts, VySmilElemSmil &root)
 {
     show.toTree(&root, parts);
-    QString text = treeText(root);
-    for (const char *name : {"meta", "root-layout", "region", "body", "par"}) {
-        for (const char *before : {" ", "("})
-            text.replace(QString(before) + name + u'[', QString(before).trimmed() + "\n " + name + u'[');
-    }
-    return text;
+    static const QRegularExpression inLine("( |(?<=\\())(?=(meta|root-layout|region|body|par)\\[)");
+    return treeText(root).replace(inLine, "\n ");
 }
 
 QString answerOf(const QString &section, const MessageCase &message, VySmilElemSmil &root)
@@ -100,7 +96,6 @@ private Q_SLOTS:
     void keepsItsPromises()
     {
         RandomMessage random(20'261'123, storedText(CORPUS "/../random.grammar"));
-        int clean = 0;
         for (int i = 0; i < 600; ++i) {
             const QString text = random.text(i % 3 == 0 ? 2 : i % 3 == 1 ? 1'000 : 20);
             const MessageCase message(text);
@@ -108,10 +103,7 @@ private Q_SLOTS:
             QCOMPARE(VySmilParser::parse(message.smil(), &root), 0);
             const QString broken = brokenInMessage(root, message) + brokenInParts(message);
             QVERIFY2(broken.isEmpty(), qPrintable(broken + u'\n' + text));
-            clean += VySmilConformance::check(root, VySmilConformance::LEVEL_RELAXED).isEmpty();
         }
-        // What is clean stays so: that was tried.
-        QVERIFY2(clean > 25, qPrintable(QString::number(clean)));
     }
 
     // A deep tree, and everything that is made of it, takes no stack.

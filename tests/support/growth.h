@@ -26,8 +26,6 @@ struct GrowthShape
 
     static QString repeated(const QString &piece, qsizetype pieces)
     {
-        if (!piece.contains(u'%'))
-            return piece.repeated(pieces);
         QString text;
         for (qsizetype i = 0; i < pieces; ++i)
             text += QString(piece).replace("%1", QString::number(10'000'000 + i).mid(1));
@@ -45,7 +43,6 @@ struct GrowthShape
 inline QList<GrowthShape> growthShapes()
 {
     const QString body("<smil><body>*</body></smil>");
-    const QString par("<smil><body><par>*</par></body></smil>");
     const QString medium("<smil><body><par><img %1/><text src='b'/></par></body></smil>");
     const QString layout("<smil><head><layout>*</layout></head><body><par><img src='a' region='a'/>"
                          "<img src='b' region='r0000009'/></par></body></smil>");
@@ -81,7 +78,8 @@ inline QList<GrowthShape> growthShapes()
         {"<smil>*</smil>", {"<body/>", "<body><img/></body>"}},
         {body, {"<par/>", "<img/>", "<img region='%1'/>", "<switch><img/></switch>", "<a/>", "<a%1/>"}},
         {body, {nested("<par>", "</par>"), nested("<seq>", "</seq>"), nested("<a>", "</a>")}},
-        {par, {"<img/>", "<audio src='%1'/>", "<img begin='%1ms' dur='%1ms'/>"}},
+        {"<smil><body><par>*</par></body></smil>",
+         {"<img/>", "<audio src='%1'/>", "<img begin='%1ms' dur='%1ms'/>"}},
         {"<smil><body><par><seq>*</seq></par></body></smil>", {"<img dur='1ms'/>"}},
         {"<smil><body><switch>*</switch></body></smil>", {"<img/>"}},
         // Long.

@@ -18,8 +18,9 @@ QString composedText(const MessageCase &message)
     VySmilSlideShow show;
     show.fromParts(parts, message.options);
     QString text = slidesText(show);
-    for (const VySmilPart &part : std::as_const(parts))
-        text += "\n<" + part.contentId + "> " + part.contentLocation;
+    for (int i = 0; i < parts.size(); ++i)
+        text += "\n<" + parts[i].contentId + "> " + parts[i].contentLocation + ", was " +
+                mediumText(VySmilMedium::ofPart(message.parts, i));
     return text.trimmed();
 }
 

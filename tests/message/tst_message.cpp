@@ -34,12 +34,7 @@ QString writtenText(const VySmilSlideShow &show, const QList<VySmilPart> &parts,
 
 QString answerOf(const QString &section, const MessageCase &message, VySmilElemSmil &root)
 {
-    // What was in a slide show before does not shine through.
-    VySmilSlideShow show;
-    show.slides.resize(3);
-    show.unusedParts << 7;
-    show.background = QColor(1, 2, 3);
-    show.guesses = VySmilMedium::GUESS_PART;
+    static VySmilSlideShow show; // what was in it does not shine through
     show.fromTree(root, message.parts, message.options);
     if (section == "finds")
         return findingsText(root, message.parts);

@@ -42,17 +42,16 @@ struct GrowthShape
 
 inline QList<GrowthShape> growthShapes()
 {
-    const QString body("<smil><body>*</body></smil>");
-    const QString medium("<smil><body><par><img %1/><text src='b'/></par></body></smil>");
+    const QString any("<smil><body>%1</body></smil>");
+    const QString body = any.arg(u'*');
+    const QString medium = any.arg("<par><img %1/><text src='b'/></par>");
     const QString layout("<smil><head><layout>*</layout></head><body><par><img src='a' region='a'/>"
                          "<img src='b' region='r0000009'/></par></body></smil>");
     const QString region = QString(layout).replace(u'*', "<region %1/>");
     const auto nested = [](const char *open, const char *shut) {
         return QString(open).repeated(250) + "<img src='a'/>" + QString(shut).repeated(250);
     };
-    QString attributes;
-    for (int i = 0; i < 250; ++i)
-        attributes += QString(" a%1=''").arg(QString::number(i, 36));
+    const QString attributes = GrowthShape::repeated(" a%1=''", 250);
 
     // Where the pieces stand, and each of them, before "@" and its part.
     const QList<std::pair<QString, QStringList>> rows = {
@@ -71,19 +70,18 @@ inline QList<GrowthShape> growthShapes()
         {"<smil>*[", {"<!DOCTYPE"}},
         {"<!DOCTYPE a [*]><a/>", {"<!ATTLIST a b%1 CDATA ''>"}},
         // Many.
-        {layout, {"<region id='a'/>", "<region id='r%1'/>", "<region id='A'/><region id='a'/>", "<region/>"}},
-        {layout, {"<root-layout/>"}},
+        {layout, {"<region id='a'/>", "<region id='r%1'/>", "<region/>", "<root-layout/>"}},
+        {layout, {"<region id='A'/><region id='a'/>"}},
         {"<smil><head>*</head><body><img src='a'/></body></smil>", {"<layout/>", "<meta/>"}},
         {"<smil>*<body><img src='a'/></body></smil>", {"<head/>"}},
         {"<smil>*</smil>", {"<body/>", "<body><img/></body>"}},
         {body, {"<par/>", "<img/>", "<img region='%1'/>", "<switch><img/></switch>", "<a/>", "<a%1/>"}},
         {body, {nested("<par>", "</par>"), nested("<seq>", "</seq>"), nested("<a>", "</a>")}},
-        {"<smil><body><par>*</par></body></smil>",
-         {"<img/>", "<audio src='%1'/>", "<img begin='%1ms' dur='%1ms'/>"}},
-        {"<smil><body><par><seq>*</seq></par></body></smil>", {"<img dur='1ms'/>"}},
-        {"<smil><body><switch>*</switch></body></smil>", {"<img/>"}},
+        {any.arg("<par>*</par>"), {"<img/>", "<audio src='%1'/>", "<img begin='%1ms' dur='%1ms'/>"}},
+        {any.arg("<par><seq>*</seq></par>"), {"<img dur='1ms'/>"}},
+        {any.arg("<switch>*</switch>"), {"<img/>"}},
         // Long.
-        {"<smil><body><*/></body></smil>", {"a"}},
+        {any.arg("<*/>"), {"a"}},
         {"<smil><body *=''/></smil>", {"a"}},
         {region.arg("id='*'"), {"a"}},
         {region.arg("id='a' width='*1'"), {"1"}},

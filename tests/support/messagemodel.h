@@ -11,7 +11,7 @@
 
 // Which parts a text names, found once more in the plainest way and at any cost.
 
-inline QString decodedName(QString text)
+inline QString decodedName(const QString &text)
 {
     static const QRegularExpression otherPercent("%(?![0-9A-Fa-f]{2})");
     const QByteArray escaped = QString(text).replace(otherPercent, "%25").toUtf8();
@@ -64,15 +64,11 @@ inline QList<int> partsThatFit(const QString &src, const QList<VySmilPart> &part
     return hits;
 }
 
-inline bool isPrintable(const QString &text)
-{
-    static const QRegularExpression printable("^[!-~]+\\z");
-    return printable.match(text).hasMatch();
-}
-
+/// Whether \a src names the one part \a part, or any where there are none, in printable ASCII.
 inline bool isGoodReference(const QString &src, int part, const QList<VySmilPart> &parts)
 {
-    return isPrintable(src) && partsThatFit(src, parts) == QList<int>{part};
+    static const QRegularExpression printable("^[!-~]+\\z");
+    return src.contains(printable) && (parts.isEmpty() || partsThatFit(src, parts) == QList<int>{part});
 }
 
 #endif

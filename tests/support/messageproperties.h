@@ -82,9 +82,10 @@ inline QString brokenInMedium(const VySmilMedium &medium, const VySmilSlide &sli
 inline QString brokenInSlides(const VySmilElemSmil &root, const MessageCase &message,
                               const VySmilSlideShow &show)
 {
+    QString broken;
     QSet<int> used;
     for (const VySmilSlide &slide : show.slides) {
-        QString broken = firstFault({
+        broken += firstFault({
             {slide.durationMs <= 0, "a slide without a duration"},
             {slide.guesses & ~VySmilMedium::GUESSES(VySmilMedium::GUESS_TIME), "a guess that no slide has"},
         });
@@ -92,24 +93,25 @@ inline QString brokenInSlides(const VySmilElemSmil &root, const MessageCase &mes
             broken += brokenInMedium(medium, slide, show.size, message.parts);
             used << medium.part;
         }
-        if (!broken.isEmpty())
-            return broken;
     }
     for (int i = 0; i < message.parts.size(); ++i) {
-        if (used.contains(i) + show.unusedParts.contains(i) + message.parts.at(i).isSmil() != 1)
-            return QString("part %1 is neither used nor unused, or both").arg(i);
+        const auto count = used.contains(i) + show.unusedParts.count(i) + message.parts[i].isSmil();
+        broken += firstFault({{count != 1, "a part that is not used, unused or the SMIL"}});
     }
     QList<const VySmilElemBase *> written;
     collectMedia(root, written);
     const QList<VySmilMedium> shown = mediaOf(show);
     const auto isSame = [](const VySmilElemBase *elem, const auto &medium) { return elem == medium.elem; };
-    return firstFault({
-        {show.size.isEmpty() || show.size.boundedTo({65'535, 65'535}) != show.size, "a size out of bounds"},
-        {show.guesses == VySmilMedium::GUESS_SCREEN, "a guessed screen that nothing is of"},
-        {show.guesses & ~VySmilMedium::GUESSES(17), "a guess that no slide show has"},
-        {!std::is_sorted(show.unusedParts.begin(), show.unusedParts.end()), "unused parts out of order"},
-        {!std::equal(written.begin(), written.end(), shown.begin(), shown.end(), isSame), "other media"},
-    });
+    return broken + firstFault({
+                        {show.size.isEmpty() || show.size.boundedTo({65'535, 65'535}) != show.size,
+                         "a size out of bounds"},
+                        {show.guesses == VySmilMedium::GUESS_SCREEN, "a guessed screen that nothing is of"},
+                        {show.guesses & ~VySmilMedium::GUESSES(17), "a guess that no slide show has"},
+                        {!std::is_sorted(show.unusedParts.begin(), show.unusedParts.end()),
+                         "unused parts out of order"},
+                        {!std::equal(written.begin(), written.end(), shown.begin(), shown.end(), isSame),
+                         "other media"},
+                    });
 }
 
 /// What writing must keep of \a show; the references are another matter.
@@ -160,7 +162,7 @@ inline QString brokenInWriting(const MessageCase &message, const VySmilSlideShow
         for (const VySmilMedium &medium : slide.media) {
             if (slide.endOf(medium) <= medium.beginMs)
                 excused << VySmilFinding::RULE_NEVER_SHOWN;
-            if (parts.isEmpty() ? !isPrintable(medium.src) : !isGoodReference(medium.src, medium.part, parts))
+            if (!isGoodReference(medium.src, medium.part, parts))
                 excused << VySmilFinding::RULE_SOURCE;
         }
     }
@@ -227,9 +229,8 @@ inline QString brokenInMessage(const VySmilElemSmil &root, const MessageCase &me
 {
     VySmilSlideShow show;
     const int result = show.fromTree(root, message.parts, message.options);
-    if ((result == VySmil::RESULT_OK) == show.slides.isEmpty())
-        return "another result than there are slides";
-    return brokenInSlides(root, message, show) + brokenInWriting(message, show) +
+    return firstFault({{(result == VySmil::RESULT_OK) == show.slides.isEmpty(), "another result"}}) +
+           brokenInSlides(root, message, show) + brokenInWriting(message, show) +
            brokenInSplitting(message, show) + brokenInChecks(root, message.parts);
 }
 

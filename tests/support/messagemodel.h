@@ -34,8 +34,9 @@ inline QString nameInRound(const QString &text, int round)
 
 inline QString withoutBrackets(const QString &text)
 {
-    static const QRegularExpression brackets("^<|>\\z");
-    return text.trimmed().remove(brackets).trimmed();
+    static const QRegularExpression brackets("^[<\\s]+|[>\\s]+\\z",
+                                             QRegularExpression::UseUnicodePropertiesOption);
+    return QString(text).remove(brackets);
 }
 
 inline QString fieldOf(const VySmilPart &part, int field)

@@ -20,13 +20,12 @@ private Q_SLOTS:
             "\\| VySmilFinding::(RULE_\\w+) \\| `([^`]*)` \\| (\\w)\\w+ \\| (\\w)(\\w+) "
             "\\| [^|]{5,} \\| [^|]{5,} \\|");
         static const QRegularExpression finding("^[EW][EW-]\\d+ ");
-        const QString guide = storedText(SOURCE_DIR "docs/checking.md");
         QStringList found =
             storedText(SOURCE_DIR "tests/message/corpus/check.message").split(u'\n').filter(finding);
         found << "EE11 body/par/ PAR\uFFFD: should be called \"par\""; // see below
         QStringList patterns;
-        for (QRegularExpressionMatchIterator at = line.globalMatch(guide); at.hasNext();) {
-            const QStringList told = at.next().capturedTexts();
+        for (const auto &row : line.globalMatch(storedText(SOURCE_DIR "docs/checking.md"))) {
+            const QStringList told = row.capturedTexts();
             const int rule = QMetaEnum::fromType<VySmilFinding::RULE>().keyToValue(qPrintable(told[1]));
             const QString grave = told[3].toUpper() + (told[5] == "one" ? "-" : told[4].toUpper());
             patterns << QString("^%1%2 [^:]+: ([a-z-]+ )?").arg(grave).arg(rule) +
@@ -54,10 +53,10 @@ private Q_SLOTS:
         regions.at(1)->setAttribute("id", "Image");
         regions.at(1)->setAttribute("fit", "\t");
         const QString halves = QString::fromUcs4(U"\U0001F600x\U0001F600", 3).mid(1, 3);
-        picture->setAttribute(halves, "1");
-        for (const char *name : {"region", "class", " "})
-            picture->setAttribute(name, " ");
-        picture->setAttribute(" end", "1");
+        for (const QString &name : {QString(" "), QString(" end"), halves})
+            picture->setAttribute(name, "1");
+        picture->setAttribute("region", " ");
+        picture->setAttribute("class", " ");
         static_cast<VySmilElemUnknown *>(par->getSubElement(0, "x"))->setElemType(" SEQ\n");
         static_cast<VySmilElemUnknown *>(par->getSubElement(0, "x"))->setElemType(" PAR\n");
         QCOMPARE(findingsText(root),

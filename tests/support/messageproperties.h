@@ -150,10 +150,8 @@ inline QString brokenInWriting(const MessageCase &message, const VySmilSlideShow
         return "what was written shows otherwise:\n" + slidesText(show) + u'\n' + slidesText(again);
 
     QSet<VySmilFinding::RULE> excused; // what is wrong with the slides is so when they are written
-    if (treeText(root).count("region[") > 2)
+    if (show.slides.isEmpty() || treeText(root).count("region[") > 2)
         excused << VySmilFinding::RULE_REGION_ID << VySmilFinding::RULE_STRUCTURE;
-    if (show.slides.isEmpty())
-        excused << VySmilFinding::RULE_STRUCTURE;
     for (const VySmilSlide &slide : std::as_const(again.slides)) {
         if (slide.media.isEmpty())
             excused << VySmilFinding::RULE_STRUCTURE;
@@ -173,12 +171,11 @@ inline QString brokenInWriting(const MessageCase &message, const VySmilSlideShow
     const QList<VySmilMedium> before = mediaOf(show);
     const QList<VySmilMedium> after = mediaOf(again);
     for (int i = 0; i < after.size(); ++i) {
-        const QString src = before.at(i).src;
-        const int part = before.at(i).part;
-        if (after.at(i).src != src.trimmed() && (part < 0 || isGoodReference(src, part, parts) ||
-                                                 partsThatFit(after.at(i).src, parts).size() != 1))
-            return "a reference that was changed: " + src + " to " + after.at(i).src;
-        if (after.at(i).guesses & ~VySmilMedium::GUESSES(VySmilMedium::GUESS_PART))
+        const VySmilMedium &was = before.at(i), &is = after.at(i);
+        if (is.src != was.src.trimmed() && (was.part < 0 || isGoodReference(was.src, was.part, parts) ||
+                                            partsThatFit(is.src, parts).size() != 1))
+            return "a reference that was changed: " + was.src + " to " + is.src;
+        if (is.guesses & ~VySmilMedium::GUESSES(VySmilMedium::GUESS_PART))
             return "what was written leaves something to guess";
     }
     return {};

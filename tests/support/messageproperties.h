@@ -168,8 +168,7 @@ inline QString brokenInWriting(const MessageCase &message, const VySmilSlideShow
         if (!excused.contains(finding.rule))
             return "what was written: " + finding.toString();
     }
-    const QList<VySmilMedium> before = mediaOf(show);
-    const QList<VySmilMedium> after = mediaOf(again);
+    const QList<VySmilMedium> before = mediaOf(show), after = mediaOf(again);
     for (int i = 0; i < after.size(); ++i) {
         const VySmilMedium &was = before.at(i), &is = after.at(i);
         if (is.src != was.src.trimmed() && (was.part < 0 || isGoodReference(was.src, was.part, parts) ||
@@ -204,8 +203,7 @@ inline QString brokenInSplitting(const MessageCase &message, const VySmilSlideSh
 {
     VySmilSlideShow split = show;
     split.splitSlides();
-    const QList<VySmilMedium> before = mediaOf(show);
-    const QList<VySmilMedium> after = mediaOf(split);
+    const QList<VySmilMedium> before = mediaOf(show), after = mediaOf(split);
     const auto isSame = [](const VySmilMedium &a, const VySmilMedium &b) { return a.elem == b.elem; };
     VySmilSlideShow laidOut = split;
     laidOut.layOut();

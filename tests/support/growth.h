@@ -43,7 +43,7 @@ struct GrowthShape
 inline QList<GrowthShape> growthShapes()
 {
     const QString any("<smil><body>%1</body></smil>");
-    const QString body = any.arg(u'*');
+    const QString body = any.arg("*");
     const QString medium = any.arg("<par><img %1/><text src='b'/></par>");
     const QString layout("<smil><head><layout>*</layout></head><body><par><img src='a' region='a'/>"
                          "<img src='b' region='r0000009'/></par></body></smil>");
@@ -99,6 +99,7 @@ inline QList<GrowthShape> growthShapes()
     };
     QList<GrowthShape> shapes;
     for (const auto &[frame, pieces] : rows) {
+        Q_ASSERT(frame.count(u'*') == 1);
         for (const QString &piece : pieces) {
             const QString part = piece.section(u'@', 1);
             shapes << GrowthShape{frame.section(u'*', 0, 0), piece.section(u'@', 0, 0),

@@ -7,7 +7,6 @@
 
 #include <VySmil/parser/vysmiltext.h>
 
-#include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
@@ -93,13 +92,12 @@ bool readFolder(const QString &path, Folder &folder, QString &error)
         names << files.fileName();
     }
     std::sort(names.begin(), names.end());
-    const QDir dir(path);
     const QString canonical = place.canonicalFilePath();
     const QString inside = canonical.endsWith(u'/') ? canonical : canonical + u'/';
     const QMimeDatabase types;
     int linksOut = 0;
     for (const QString &name : std::as_const(names)) {
-        const QFileInfo info(dir.filePath(name));
+        const QFileInfo info(path + u'/' + name);
         if (info.isSymLink() && !info.canonicalFilePath().startsWith(inside))
             ++linksOut;
         else if (info.isFile())

@@ -106,6 +106,18 @@ private Q_SLOTS:
                  said.output);
     }
 
+    void tellsOfAFullDisk()
+    {
+        QProcess process;
+        process.setStandardOutputFile("/dev/full");
+        process.start(PROGRAM, {});
+        process.write(cleanDocument);
+        process.closeWriteChannel();
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitCode(), 2);
+        QCOMPARE(process.readAllStandardError(), "smilinfo: standard output cannot be written\n");
+    }
+
     // Every option, and every member of what is printed, is in the man page.
     void manPage()
     {

@@ -128,6 +128,7 @@ private Q_SLOTS:
         row("standard input", {}, 0);
         row("a file", {"a.smil"}, 0);
         row("- as output", {"-o", "-", "a.smil"}, 0);
+        row("a pipe as output", {"-o", "/dev/stdout", "a.smil"}, 0);
         row("into a file", {"-o", "out/a.svg", "a.smil"}, 0);
         row("parts", {"--parts", "more", "--parts=out", "a.smil"}, 0);
         row("no such folder for it", {"-o", "no/a.svg", "a.smil"}, 2);

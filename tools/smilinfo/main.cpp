@@ -9,6 +9,8 @@
 
 #include <QCoreApplication>
 
+#include <cstdio>
+
 namespace {
 
 // The exit status.
@@ -109,6 +111,10 @@ int main(int argc, char **argv)
     for (const QString &path : std::as_const(paths)) {
         worst = std::max(worst, inform(out, path, reading, *wishes));
         out.flush();
+    }
+    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
+        complain(QStringLiteral("standard output cannot be written"));
+        return OUTCOME_UNREADABLE;
     }
     return worst;
 }

@@ -8,6 +8,7 @@
 #include "drawing.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QLoggingCategory>
 #include <QSaveFile>
 
@@ -22,6 +23,15 @@ bool write(const QByteArray &svg, const QString &path, QString &error)
         const auto size = static_cast<size_t>(svg.size());
         error = QStringLiteral("standard output cannot be written");
         return std::fwrite(svg.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
+    }
+    // Only a file can be exchanged for another: a pipe or a device is written to.
+    const QFileInfo place(path);
+    if (place.exists() && !place.isFile()) {
+        QFile device(path);
+        const bool isWritten =
+            device.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && device.write(svg) == svg.size();
+        error = device.errorString();
+        return isWritten;
     }
     QSaveFile file(path);
     const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(svg) == svg.size() && file.commit();

@@ -63,14 +63,12 @@ bool Message::read(const QString &smilFile)
     const VySmilTextFault fault = VySmilText::explain(text);
     if (fault.reason != VySmilTextFault::FAULT_NONE)
         m_notes << fault.toString();
-    VySmilElemSmil root;
-    if (VySmilParser::parse(VySmilText::mend(text), &root) != VySmil::RESULT_OK)
+    if (VySmilParser::parse(VySmilText::mend(text), &m_root) != VySmil::RESULT_OK)
         return false;
-    const auto findings = VySmilConformance::check(root, VySmilConformance::LEVEL_RELAXED, m_parts);
+    const auto findings = VySmilConformance::check(m_root, VySmilConformance::LEVEL_RELAXED, m_parts);
     for (const VySmilFinding &finding : findings)
         m_notes << finding.toString();
-    m_slideShow.fromTree(root, m_parts);
-    return true;
+    return m_slideShow.fromTree(m_root, m_parts) == VySmil::RESULT_OK;
 }
 
 QString Message::text(int part) const

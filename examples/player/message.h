@@ -41,6 +41,7 @@ public:
 private:
     bool read(const QString &smilFile);
 
+    VySmilElemSmil m_root; // the slides point into it
     VySmilSlideShow m_slideShow;
     QList<VySmilPart> m_parts;
     QStringList m_files;      // of the parts, in their order

@@ -183,7 +183,7 @@ void TestPlayer::shows_data()
         R"(<smil><body><par><img src="../secret.png"/></par><par><img src="link.png"/></par>
            <par><img src="image://parts/-1"/></par><par><img src="bitmap.png"/></par></body></smil>)",
         "../secret.png|link.png|image://parts/-1|bitmap.png");
-    row("no slide", "<smil/>", "wide.png");
+    row("no slide", "<smil/>", "#ff0000|#00ff00");
     row("cut off", R"(<smil><body><par><img src="wide.png"/></pa)", "#ff0000|tall.png");
     row("no message", "<html/>", "#ff0000|#00ff00|one\ntwo#263238|card.vcf");
     row("too long", QByteArray(300'000, ' ').constData(), "No SMIL can be read: the files in their order.");

@@ -139,7 +139,7 @@ Places::Places(const QList<VySmilSlide> &slides, QSize size)
     const VySmilPrivate::DefaultPlaces defaults(slides, size);
     for (qsizetype i = 0; i < slides.size(); ++i) {
         for (const VySmilMedium &medium : slides.at(i).media) {
-            QRect rect = medium.rect.intersected(all);
+            QRect rect = medium.rect.isEmpty() ? QRect() : medium.rect.intersected(all);
             if (rect.isEmpty())
                 rect = defaults.of(medium.kind);
             const bool isSeen = !rect.isNull() && medium.kind != VySmilMedium::MEDIUM_AUDIO;

@@ -47,7 +47,8 @@ public:
     ///
     /// *Times.* Clock values, offsets and bare numbers (seconds, as phones take them) are known. A slide
     /// without a "dur" lasts as long as its media, or the default. A medium ends with its slide where nothing
-    /// else is known. In a "seq" each begins where the one before it ends.
+    /// else is known. In a "seq" each begins where the one before it ends. Times beyond the end of the slide
+    /// are cut to it.
     ///
     /// The pointers of slides and media point into the tree, as long as that stays as it is.
     ///
@@ -64,7 +65,8 @@ public:
 
     /// Splits each slide that has two media of one sort (pictures and videos; texts; sounds and videos), so
     /// that none has: two pictures with two captions become two slides. Each lasts as long as the longest of
-    /// its media did.
+    /// its media did, and these are there for all of it: begins and ends are lost, and a sound is heard in
+    /// one of the slides alone.
     void splitSlides();
 
     /// Gives every picture, video and text the default place and its fit, and all others none.
@@ -73,8 +75,15 @@ public:
     /// Replaces the children of \a root by a document that shows these slides: whole pixels, whole
     /// milliseconds, the regions "Image" and "Text" and as many more as there are rectangles. Of a head the
     /// "meta" elements stay; attributes that the root does not take go. It is strict-clean, and fromTree()
-    /// with the same \a parts gives the same durations, kinds, sources, places and times again. For null
+    /// with the same \a parts gives the same durations, kinds, parts, places and times again. For null
     /// nothing happens.
+    ///
+    /// Colours are not written, and each visual medium gets the name of its region. Where its size is that of
+    /// a screen (GUESS_SCREEN), the regions are in percent.
+    ///
+    /// \a parts are those that the media count in "part". A "src" that does not name that part alone, in
+    /// printable ASCII, is replaced by a reference of the part that does, if it has one; so call
+    /// VySmilPart::nameAll() before, where the message is to be sent.
     ///
     /// Where these slides come from the tree of \a root itself, every "elem" and "regionElem" dangles then:
     /// write into a tree of its own while they are needed.

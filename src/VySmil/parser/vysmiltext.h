@@ -20,9 +20,9 @@ public:
     ///
     /// The character set is told by a byte order mark, which does not come into the text; else by how the
     /// first "<" is written in UTF-16 and UTF-32; else by \a charset; else by the XML declaration; else it is
-    /// UTF-8. A label that names US-ASCII, no character set that Qt knows, or wide characters where there are
-    /// none, counts as not given. What is said to be UTF-8 and is not is read as Windows-1252, or as Latin-1
-    /// where Qt lacks that. NULs, and half a character, at the end are left out.
+    /// UTF-8. A label "us-ascii" or "ascii", one that Qt does not know, or one of wide characters where there
+    /// are none, counts as not given. What is said to be UTF-8 and is not is read as Windows-1252, or as
+    /// Latin-1 where Qt lacks that. NULs, and half a character, at the end are left out.
     ///
     /// \param bytes the content of the part
     /// \param charset the parameter "charset" of its content type, with or without quotes, in any letter
@@ -45,8 +45,8 @@ public:
     /// where they are missing, the names of the vocabulary in lower case, and elements closed that were left
     /// open. Mending a mended text changes nothing.
     ///
-    /// \return the text as it is if there is no "<smil", in any letter case; else what parse() reads with
-    ///         VySmil::RESULT_OK
+    /// \return the text as it is if there is no tag called "smil", in any letter case, outside of comments;
+    ///         else what parse() reads with VySmil::RESULT_OK
     [[nodiscard]] static QString mend(const QString &text);
 };
 

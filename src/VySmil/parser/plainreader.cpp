@@ -37,7 +37,7 @@ Outcome PlainReader::read()
         if (const Outcome step = readMarkup(); step != Outcome::Done)
             return step;
     }
-    return doneIf(m_hasRoot && m_open.empty());
+    return m_open.empty() ? doneIf(m_hasRoot) : Outcome::Refused;
 }
 
 // A tag, a comment, or the text between those.
@@ -77,8 +77,10 @@ Outcome PlainReader::readEndTag()
 {
     const QStringView tag = readName();
     m_text.skipBlanks();
-    if (m_open.empty() || tag != m_open.back() || !m_text.skip(u">"))
+    if (m_open.empty() || tag.isEmpty() || !m_text.skip(u">"))
         return Outcome::Unsure;
+    if (tag != m_open.back())
+        return Outcome::Refused;
     m_open.pop_back();
     m_builder.endElement();
     return Outcome::Done;

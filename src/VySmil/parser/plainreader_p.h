@@ -16,15 +16,15 @@ namespace VySmilPrivate {
 /// Reads the plain XML that messages are made of: tags and attributes with ASCII names, values with
 /// references to characters, ordinary text, comments.
 ///
-/// It never calls a text malformed: what it takes, Qt takes, with the same tree, and at the first thing that
-/// it is not certain of it stops, for Qt to read the text from its start.
+/// What it takes, Qt takes, with the same tree; what it refuses, Qt refuses; and at the first thing that it is
+/// not certain of it stops, for Qt to read the text from its start.
 class PlainReader
 {
 public:
     enum class Outcome {
         Done,    ///< the whole text is read
         Unsure,  ///< the text may be XML of another kind, or none, or exceed the bounds of VySmilParser
-        Refused, ///< the text exceeds those bounds
+        Refused, ///< the text exceeds those bounds, or an end tag is missing
     };
 
     /// \a document and \a treeBuilder outlive the reader.

@@ -11,6 +11,8 @@
 
 #include <QMap>
 
+#include <algorithm>
+
 namespace {
 
 using VySmilPrivate::Attr;
@@ -70,6 +72,9 @@ char32_t referenced(TextCursor &text)
 // A value as an XML reader gives it. Of a source the line ends are taken out: mail programs wrap.
 QString valueOf(QStringView written, bool isSourceValue)
 {
+    const auto standsForItself = [](QChar c) { return c >= u' ' && c != u'&' && c < QChar(0xd800); };
+    if (std::all_of(written.begin(), written.end(), standsForItself))
+        return written.trimmed().toString();
     QString value;
     value.reserve(written.size());
     for (TextCursor text(written); !text.isAtEnd();) {

@@ -113,6 +113,7 @@ private Q_SLOTS:
         second[0].part = 3;
         second[1].kind = VySmilMedium::MEDIUM_IMAGE;
         second[1].src = "A.JPG";
+        second[1].rect = QRect(100, 0, -50, 10); // turned round it would be one
         second[2].src = "cid:\u00e9";
         second[2].kind = VySmilMedium::MEDIUM_AUDIO;
         VySmilElemSmil root;

@@ -51,6 +51,12 @@ private Q_SLOTS:
         row<VySmil::VyWallClockSyncTime>("VyWallClockSyncTime", 32);
         row<VySmil::VyTime>("VyTime", 504);
         row<VySmilTextFault>("VySmilTextFault", 48);
+        row<VySmilPart>("VySmilPart", 104);
+        row<VySmilMedium>("VySmilMedium", 200);
+        row<VySmilSlide>("VySmilSlide", 48);
+        row<VySmilSlideShow>("VySmilSlideShow", 80);
+        row<VySmilSlideShowOptions>("VySmilSlideShowOptions", 12);
+        row<VySmilFinding>("VySmilFinding", 88);
         row<VySmilElemList>("VySmilElemList", 40);
         row<VySmilAttrBase>("VySmilAttrBase", 16);
         row<VySmilAttrCommon>("VySmilAttrCommon", 16);

@@ -16,8 +16,8 @@ namespace VySmilPrivate {
 /// Reads the plain XML that messages are made of: tags and attributes with ASCII names, values with
 /// references to characters, ordinary text, comments.
 ///
-/// What it takes, Qt takes, with the same tree; what it refuses, Qt refuses; and at the first thing that it is
-/// not certain of it stops, for Qt to read the text from its start.
+/// What it takes, Qt takes, with the same tree; what it refuses, Qt refuses; and at the first thing that it
+/// is not certain of it stops, for Qt to read the text from its start.
 class PlainReader
 {
 public:

@@ -38,7 +38,6 @@ QSet<const VySmilElemBase *> parsWithMedia(const VySmilElemBase &root)
             open.emplace_back(&elem, media);
         else if (isMedium(elem))
             ++media;
-        return true;
     };
     const auto leave = [&](const VySmilElemBase &elem) {
         if (open.empty() || open.back().first != &elem)

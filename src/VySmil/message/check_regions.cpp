@@ -58,14 +58,11 @@ std::optional<Found> faultInPercent(Length from, const Length &size)
     return first < 0 || first > 100 ? std::optional(Found::OutsideOfRoot) : std::nullopt;
 }
 
-std::optional<Found> faultOfPlace(const VySmilElemBase &region, Attr from, Attr size,
-                                  const std::optional<int> &whole)
+std::optional<Found> faultOfPlace(const Length &from, const Length &size, const std::optional<int> &whole)
 {
-    const Length first = VySmilPrivate::lengthOf(region, from);
-    const Length between = VySmilPrivate::lengthOf(region, size);
-    if (between && VySmilPrivate::pixelsOf(*between, 100) <= 0)
+    if (size && VySmilPrivate::pixelsOf(*size, 100) <= 0)
         return Found::NoSize;
-    return whole ? faultInPixels(first, between, *whole) : faultInPercent(first, between);
+    return whole ? faultInPixels(from, size, *whole) : faultInPercent(from, size);
 }
 
 } // namespace
@@ -94,19 +91,19 @@ void checkRegion(const VySmilElemBase &region, const DocumentFacts &document, Re
 {
     checkId(region, document, report);
 
-    bool hasPixels = false;
-    bool hasPercent = false;
-    for (const Attr attr : {Attr::Left, Attr::Top, Attr::Width, Attr::Height}) {
-        const Length length = lengthOf(region, attr);
-        hasPixels = hasPixels || hasUnit(length, VySmil::UNIT_PIXELS);
-        hasPercent = hasPercent || hasUnit(length, VySmil::UNIT_PERCENT);
-    }
-    if (hasPixels && hasPercent)
+    const Length left = lengthOf(region, Attr::Left);
+    const Length top = lengthOf(region, Attr::Top);
+    const Length width = lengthOf(region, Attr::Width);
+    const Length height = lengthOf(region, Attr::Height);
+    const auto isAnyIn = [&](VySmil::UNIT_KIND unit) {
+        return hasUnit(left, unit) || hasUnit(top, unit) || hasUnit(width, unit) || hasUnit(height, unit);
+    };
+    if (isAnyIn(VySmil::UNIT_PIXELS) && isAnyIn(VySmil::UNIT_PERCENT))
         report.add(Found::UnitsMixed);
 
-    auto fault = faultOfPlace(region, Attr::Left, Attr::Width, document.rootWidth());
+    auto fault = faultOfPlace(left, width, document.rootWidth());
     if (!fault)
-        fault = faultOfPlace(region, Attr::Top, Attr::Height, document.rootHeight());
+        fault = faultOfPlace(top, height, document.rootHeight());
     if (fault)
         report.add(*fault);
 

@@ -178,15 +178,11 @@ TreeWriter::Source TreeWriter::sourceOf(const VySmilMedium &medium) const
     const Match match = m_references.index().find(medium.src);
     const bool isKnown = medium.part >= 0 && medium.part < m_parts.size();
     const int part = isKnown ? medium.part : match.part;
-    const auto found = [this](const QString &src) {
-        return Source{src, m_references.index().find(src).part};
-    };
     if (part < 0 || VySmilPrivate::References::isGood(medium.src, match, part))
         return {medium.src, match.part};
-    if (QStringView(medium.src).trimmed().isEmpty())
-        return found(m_references.of(part));
-    const QString good = m_references.goodFor(part);
-    return good.isEmpty() ? Source{medium.src, match.part} : found(good);
+    const bool isBlank = QStringView(medium.src).trimmed().isEmpty();
+    const QString better = isBlank ? m_references.of(part) : m_references.goodFor(part);
+    return better.isEmpty() ? Source{medium.src, match.part} : Source{better, part};
 }
 
 } // namespace

@@ -102,7 +102,6 @@ VySmilPrivate::DocumentElements VySmilPrivate::elementsOf(const VySmilElemBase &
     DocumentWalk walk(root);
     const auto enter = [&walk](const VySmilElemBase &elem, const VySmilElemBase *parent) {
         walk.enter(elem, parent);
-        return true;
     };
     walkTree(root, enter, [&walk](const VySmilElemBase &elem) { walk.leave(elem); });
     return std::move(walk.found);

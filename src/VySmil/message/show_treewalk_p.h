@@ -11,8 +11,7 @@
 namespace VySmilPrivate {
 
 /// Calls \a enter with \a top and each element below it in document order, and with its parent (null for \a
-/// top); \a leave behind the subtree of each element for which that was true; below the others it does not
-/// go. Takes no stack for depth.
+/// top), and \a leave behind the subtree of each. Takes no stack for depth.
 template <typename Enter, typename Leave>
 void walkTree(const VySmilElemBase &top, Enter enter, Leave leave)
 {
@@ -21,8 +20,7 @@ void walkTree(const VySmilElemBase &top, Enter enter, Leave leave)
         const VySmilElemBase *elem;
         qsizetype nextChild;
     };
-    if (!enter(top, nullptr))
-        return;
+    enter(top, nullptr);
     std::vector<Step> path{{&top, 0}};
     while (!path.empty()) {
         const VySmilElemBase &elem = *path.back().elem;
@@ -30,7 +28,8 @@ void walkTree(const VySmilElemBase &top, Enter enter, Leave leave)
         if (!child) {
             path.pop_back();
             leave(elem);
-        } else if (enter(*child, &elem)) {
+        } else {
+            enter(*child, &elem);
             path.push_back({child, 0});
         }
     }

@@ -88,7 +88,6 @@ QList<VySmilFinding> VySmilConformance::check(const VySmilElemSmil &root, CONFOR
     Checker checker(root, level == LEVEL_STRICT, parts);
     const auto enter = [&checker](const VySmilElemBase &elem, const VySmilElemBase *) {
         checker.enter(elem);
-        return true;
     };
     VySmilPrivate::walkTree(root, enter, [&checker](const VySmilElemBase &) { checker.leave(); });
     return std::move(checker).findings();

@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: 2026 the VySmil authors
 // SPDX-License-Identifier: MIT
 
+#include <VySmil/model/attributeview_p.h>
 #include <VySmil/model/treebuilder_p.h>
 #include <VySmil/model/vocabulary_p.h>
-
-#include <QMap>
 
 #include <algorithm>
 #include <memory>
@@ -61,9 +60,8 @@ int TreeBuilder::handOver(VySmilElemBase &root, VySmil::STATUS_CODE *status)
 {
     if (status && m_found != VySmil::STATUS_OK)
         *status = m_found;
-    const QMap<QString, QString> attributes = m_read.getAttributes();
-    for (auto it = attributes.begin(); it != attributes.end(); ++it)
-        root.setAttribute(it.key(), it.value());
+    for (const auto &[name, value] : AttributeView(m_read))
+        root.setAttribute(name, value);
     m_read.getSubElements()->setAutoDelete(false);
     for (VySmilElemBase *child : *m_read.getSubElements())
         root.getSubElements()->append(child);

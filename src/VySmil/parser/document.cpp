@@ -38,12 +38,7 @@ Tag readTag(TextCursor &text)
 // Goes behind what is neither an element nor a declaration, if that comes next.
 bool skipSection(TextCursor &text)
 {
-    static constexpr struct
-    {
-        QStringView begin;
-        QStringView end;
-    } sections[] = {{u"<!--", u"-->"}, {u"<![CDATA[", u"]]>"}, {u"<?", u"?>"}};
-    for (const auto &[begin, end] : sections) {
+    for (const auto &[begin, end] : VySmilPrivate::sections) {
         if (text.skip(begin)) {
             text.skipPast(end);
             return true;

@@ -90,11 +90,6 @@ bool TagReader::readNext()
 // Goes behind a comment, a CDATA section or an instruction, if one with an end comes next.
 bool TagReader::skipSection()
 {
-    static constexpr struct
-    {
-        QStringView begin;
-        QStringView end;
-    } sections[] = {{u"<!--", u"-->"}, {u"<![CDATA[", u"]]>"}, {u"<?", u"?>"}};
     const char16_t *const start = m_text.at;
     for (std::size_t kind = 0; kind < m_isSectionEndMissing.size(); ++kind) {
         if (m_isSectionEndMissing[kind] || !m_text.skip(sections[kind].begin))

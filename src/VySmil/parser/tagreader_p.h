@@ -74,8 +74,8 @@ private:
     TextCursor m_text;
     LooseTag m_tag;
     // What has been looked for already, so that nothing is looked for again and again.
-    std::array<bool, 3> m_isSectionEndMissing{}; // in all that comes, for each kind of section
-    bool m_isSubsetEndMissing = false;           // likewise for the end of a subset of a document type
+    std::array<bool, std::size(sections)> m_isSectionEndMissing{}; // in all that comes, of each kind
+    bool m_isSubsetEndMissing = false; // likewise for the end of a subset of a document type
     const char16_t *m_noDoctypeBefore;
     std::array<Decision, 4> m_decisions; // the last for each kind of quote
 };

@@ -11,8 +11,8 @@
 namespace VySmilPrivate {
 
 /// What XML takes for white space in markup.
-inline constexpr auto isBlank = [](char16_t c) {
-    return c == u' ' || c == u'\n' || c == u'\t' || c == u'\r';
+inline constexpr auto isBlank = [](char32_t c) {
+    return c == U' ' || c == U'\n' || c == U'\t' || c == U'\r';
 };
 
 /// What a name of ASCII characters begins with.
@@ -32,6 +32,15 @@ inline constexpr auto isHexDigit = [](char16_t c) {
 /// The greatest length of a name that is read without asking Qt, which takes none of several thousand
 /// characters.
 inline constexpr qsizetype maxNameSize = 256;
+
+/// What is neither an element nor a declaration.
+struct Section
+{
+    QStringView begin;
+    QStringView end;
+};
+/// Comments, CDATA sections, instructions.
+inline constexpr Section sections[] = {{u"<!--", u"-->"}, {u"<![CDATA[", u"]]>"}, {u"<?", u"?>"}};
 
 /// A place in a text that goes forward.
 struct TextCursor

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the VySmil authors
 // SPDX-License-Identifier: MIT
 
+#include <VySmil/parser/textcursor_p.h>
 #include <VySmil/parser/vysmiltext.h>
 
 #include <QRegularExpression>
@@ -9,6 +10,8 @@
 #include <algorithm>
 
 namespace {
+
+using VySmilPrivate::isBlank;
 
 constexpr QByteArrayView utf8Mark = "\xEF\xBB\xBF";
 constexpr char32_t byteOrderMark = 0xfeff;
@@ -26,11 +29,6 @@ constexpr WideEncoding wideEncodings[] = {{QStringConverter::Utf32LE, 4, false},
                                           {QStringConverter::Utf32BE, 4, true},
                                           {QStringConverter::Utf16LE, 2, false},
                                           {QStringConverter::Utf16BE, 2, true}};
-
-constexpr bool isBlank(char32_t c)
-{
-    return c == U' ' || c == U'\t' || c == U'\n' || c == U'\r';
-}
 
 // The unit at a position; NUL if the bytes end before its end.
 char32_t unitAt(QByteArrayView bytes, qsizetype position, const WideEncoding &wide)

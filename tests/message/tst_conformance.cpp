@@ -59,6 +59,8 @@ private Q_SLOTS:
         picture->setAttribute("class", " ");
         static_cast<VySmilElemUnknown *>(par->getSubElement(0, "x"))->setElemType(" SEQ\n");
         static_cast<VySmilElemUnknown *>(par->getSubElement(0, "x"))->setElemType(" PAR\n");
+        root.getSubElements()->append(new VySmilElemUnknown);
+        root.getSubElements()->at(2)->getSubElements()->append(new VySmilElemUnknown);
         QCOMPARE(findingsText(root),
                  QString("EW2 head/layout/region[1]: id is missing\n"
                          "W-0 body/par/img:  end is not in the vocabulary of img\n"
@@ -66,10 +68,12 @@ private Q_SLOTS:
                          "W-0 body/par/img: \uFFFDx\uFFFD is not in the vocabulary of img\n"
                          "EW0 body/par/ SEQ\uFFFD: is not in the vocabulary\n"
                          "EW0 body/par/ PAR\uFFFD: is not in the vocabulary\n"
-                         "EE11 body/par/ PAR\uFFFD: should be called \"par\""));
+                         "EE11 body/par/ PAR\uFFFD: should be called \"par\"\n"
+                         "EW0 : is not in the vocabulary\n"
+                         "EW0 /: is not in the vocabulary"));
         const auto findings = VySmilConformance::check(root, VySmilConformance::LEVEL_STRICT);
         QCOMPARE(findings[3].attribute, halves);
-        QCOMPARE(findings.last().elem, par->getSubElements()->at(2));
+        QCOMPARE(findings[6].elem, par->getSubElements()->at(2));
     }
 };
 

@@ -58,12 +58,12 @@ QString Path::text()
     QString text;
     text.reserve(64);
     if (first > 1)
-        text += QLatin1String("...");
+        text += QLatin1String(".../");
     for (std::size_t i = first; i < m_steps.size(); ++i) {
         Step &parent = m_steps[i - 1];
         if (parent.childNumbers.empty())
             parent.childNumbers = numbersOfChildren(*parent.elem);
-        if (!text.isEmpty())
+        if (i > first)
             text += u'/';
         appendShown(text, m_steps[i].elem->getElemType());
         if (const int number = parent.childNumbers[m_steps[i].position]; number > 0)

@@ -11,16 +11,11 @@ namespace {
 using VySmilPrivate::Found;
 using VySmilPrivate::KnownTime;
 
-// "5" or "2.5".
+// Whether a time that is known is a number and nothing else: "5", "2.5", "1e3".
 bool isBareNumber(QStringView text)
 {
-    const qsizetype point = text.indexOf(u'.');
-    if (point < 0)
-        return VySmilPrivate::isDigits(text);
-    const QStringView whole = text.first(point);
-    const QStringView fraction = text.sliced(point + 1);
-    return (whole.isEmpty() || VySmilPrivate::isDigits(whole)) &&
-           (fraction.isEmpty() || VySmilPrivate::isDigits(fraction)) && text.size() > 1;
+    const auto isInNumber = [](QChar c) { return (c >= u'0' && c <= u'9') || c == u'.'; };
+    return isInNumber(text.front()) && isInNumber(text.back()) && !text.contains(u':');
 }
 
 // What is wrong with the form of a time that is there, whether or not it reads. \a mayBeOpen says that
@@ -36,7 +31,7 @@ std::optional<Found> faultOf(const QString &text, bool mayBeOpen)
         return Found::NoTime;
     if (isInMilliSeconds)
         return std::nullopt;
-    if (isBareNumber(text))
+    if (time.isKnown && isBareNumber(text))
         return Found::NoUnit;
     if (VySmilPrivate::isDigitsBefore(text, u"s"))
         return Found::InSeconds;

@@ -19,10 +19,10 @@ int hexDigit(char c)
 }
 
 // Takes %XX for bytes of UTF-8. A "%" without two digits stays, and so does all of a text that would be no
-// UTF-8; neither is what Qt's decoding does.
+// UTF-8 or has half a surrogate pair; neither is what Qt's decoding does.
 QString percentDecoded(const QString &text)
 {
-    if (!text.contains(u'%'))
+    if (!text.contains(u'%') || !text.isValidUtf16())
         return text;
     const QByteArray encoded = text.toUtf8();
     QByteArray bytes;
@@ -71,7 +71,7 @@ PartIndex::Match PartIndex::find(const QString &src) const
     QString key = src.trimmed();
     const bool isCid = key.startsWith(QLatin1String("cid:"), Qt::CaseInsensitive);
     if (isCid)
-        key.remove(0, 4);
+        key = key.sliced(4).trimmed();
     const QString id = idWithoutBrackets(key);
     static constexpr Field orders[2][3] = {{Field::Location, Field::Name, Field::Id},
                                            {Field::Id, Field::Location, Field::Name}};
@@ -100,11 +100,8 @@ const PartIndex::Table &PartIndex::table(int round, Field field) const
         const QString key = comparable(text, round);
         if (key.isEmpty() || part.isSmil())
             continue;
-        const auto known = made->find(key);
-        if (known == made->end())
-            made->insert(key, {i, true});
-        else
-            known->isAlone = false;
+        Match &match = (*made)[key];
+        match = match.part < 0 ? Match{i, true} : Match{match.part, false};
     }
     return *made;
 }

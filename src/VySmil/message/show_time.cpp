@@ -24,21 +24,21 @@ double milliSecondsOf(const VySmil::VyTimeClock &clock)
     return static_cast<double>(clock.timeCount.value) * factors[clock.timeCount.metric];
 }
 
-// The form of nearly all times in messages: "5000ms", "5s", "4.5s", and "5", which is text to a VyTime.
-// Beyond it, the single precision of a VyTime has no room for every millisecond of a long time.
+// The form of nearly all times in messages: "5000ms", "5s", "4.5s", "4.5", and "5", which is text to a
+// VyTime. Beyond it, the single precision of a VyTime has no room for every millisecond of a long time.
 std::optional<double> wholeMilliSeconds(QStringView text)
 {
     const bool inMilliSeconds = text.endsWith(u"ms");
     const qsizetype unitSize = inMilliSeconds ? 2 : text.endsWith(u's') ? 1 : 0;
     const QStringView digits = text.chopped(unitSize);
-    const qsizetype point = unitSize == 1 ? digits.indexOf(u'.') : -1;
+    const qsizetype point = inMilliSeconds ? -1 : digits.indexOf(u'.');
     const qsizetype decimals = point < 0 ? 0 : digits.size() - point - 1;
     if (digits.isEmpty() || point == 0 || (point > 0 && (decimals == 0 || decimals > 3)))
         return std::nullopt;
     // Where a number goes on and on, a VyTime knows whether it reads.
     const auto *const significant =
         std::find_if(digits.begin(), digits.end(), [](QChar c) { return c != u'0'; });
-    if (unitSize > 0 && digits.end() - significant > 18)
+    if ((unitSize > 0 || point > 0) && digits.end() - significant > 18)
         return std::nullopt;
     double number = 0;
     for (qsizetype i = 0; i < digits.size(); ++i) {

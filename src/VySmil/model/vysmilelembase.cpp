@@ -69,12 +69,12 @@ QString VySmilElemBase::getAttribute(const QString &name) const
 
 void VySmilElemBase::setAttribute(const QString &name, const QString &value)
 {
-    const auto place = std::lower_bound(attributes.begin(), attributes.end(), name, isBefore);
-    if (place != attributes.end() && place->first == name) {
-        place->second = value;
+    const auto place = std::lower_bound(attributes.cbegin(), attributes.cend(), name, isBefore);
+    const qsizetype index = place - attributes.cbegin();
+    if (place != attributes.cend() && place->first == name) {
+        attributes[index].second = value;
         return;
     }
-    const qsizetype index = place - attributes.begin();
     // Most elements have a few attributes: one allocation holds them.
     if (attributes.isEmpty())
         attributes.reserve(4);
@@ -83,8 +83,8 @@ void VySmilElemBase::setAttribute(const QString &name, const QString &value)
 
 void VySmilElemBase::rmAttribute(const QString &name)
 {
-    const auto place = std::lower_bound(attributes.begin(), attributes.end(), name, isBefore);
-    if (place != attributes.end() && place->first == name)
+    const auto place = std::lower_bound(attributes.cbegin(), attributes.cend(), name, isBefore);
+    if (place != attributes.cend() && place->first == name)
         attributes.erase(place);
 }
 

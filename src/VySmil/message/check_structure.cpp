@@ -24,8 +24,7 @@ void checkPlace(Elem name, const QString &type, const Surroundings &around, Repo
         report.add(Found::Misplaced, nameOf(around.parent));
         return;
     }
-    const bool mayBeMany = name == Elem::Par || name == Elem::Meta || mediumKindOf(name) != MediumKind::None;
-    if (!mayBeMany && around.countOf(name) >= (name == Elem::Region ? 2 : 1))
+    if (around.countOf(name) >= mostOf(name))
         report.add(Found::OneTooMany);
     else if (name == Elem::Head && around.countOf(Elem::Body) > 0)
         report.add(Found::BehindBody);

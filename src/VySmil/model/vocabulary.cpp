@@ -19,6 +19,7 @@
 
 #include <initializer_list>
 #include <iterator>
+#include <limits>
 #include <new>
 #include <typeinfo>
 
@@ -50,6 +51,7 @@ public:
         for (const Name name : names)
             m_bits |= bitOf(name);
     }
+    constexpr bool isEmpty() const { return m_bits == 0; }
     constexpr bool contains(Name name) const { return (m_bits & bitOf(name)) != 0; }
 
 private:
@@ -67,39 +69,47 @@ struct ElementRow
     SetOf<Attr> attributes;                // that it accepts
     SetOf<Attr> attributesOfOtherVersions; // that it accepts under every version but the one that is known
     SetOf<Elem> children;                  // that the profile lets it hold
+    int most;                              // of it in its parent
     Elem elem;
     MediumKind kind; // of media objects
 };
 
 template <class ElemClass>
-constexpr ElementRow row(Elem elem, QStringView name, SetOf<Attr> attributes, SetOf<Elem> children,
+constexpr ElementRow row(Elem elem, QStringView name, int most, SetOf<Attr> attributes, SetOf<Elem> children,
                          MediumKind kind = MediumKind::None, SetOf<Attr> attributesOfOtherVersions = {})
 {
-    return {
-        name, make<ElemClass>, isExactly<ElemClass>, attributes, attributesOfOtherVersions, children, elem,
-        kind};
+    return {name,
+            make<ElemClass>,
+            isExactly<ElemClass>,
+            attributes,
+            attributesOfOtherVersions,
+            children,
+            most,
+            elem,
+            kind};
 }
 
+constexpr int many = std::numeric_limits<int>::max();
 constexpr SetOf<Attr> soundAttributes{Attr::Src, Attr::Begin, Attr::End, Attr::Dur, Attr::Alt};
 constexpr SetOf<Attr> mediaAttributes{Attr::Src, Attr::Begin, Attr::End, Attr::Dur, Attr::Alt, Attr::Region};
 
 // In the order of Elem.
 constexpr ElementRow elementRows[] = {
-    row<VySmilElemPar>(Elem::Par, u"par", {Attr::Dur},
+    row<VySmilElemPar>(Elem::Par, u"par", many, {Attr::Dur},
                        {Elem::Img, Elem::Text, Elem::Audio, Elem::Video, Elem::Ref}),
-    row<VySmilElemMediaObjImg>(Elem::Img, u"img", mediaAttributes, {}, MediumKind::Image),
-    row<VySmilElemMediaObjText>(Elem::Text, u"text", mediaAttributes, {}, MediumKind::Text),
-    row<VySmilElemMediaObjAudio>(Elem::Audio, u"audio", soundAttributes, {}, MediumKind::Audio),
-    row<VySmilElemMediaObjVideo>(Elem::Video, u"video", mediaAttributes, {}, MediumKind::Video),
-    row<VySmilElemMediaObjRef>(Elem::Ref, u"ref", mediaAttributes, {}, MediumKind::Other),
-    row<VySmilElemRegion>(Elem::Region, u"region",
+    row<VySmilElemMediaObjImg>(Elem::Img, u"img", many, mediaAttributes, {}, MediumKind::Image),
+    row<VySmilElemMediaObjText>(Elem::Text, u"text", many, mediaAttributes, {}, MediumKind::Text),
+    row<VySmilElemMediaObjAudio>(Elem::Audio, u"audio", many, soundAttributes, {}, MediumKind::Audio),
+    row<VySmilElemMediaObjVideo>(Elem::Video, u"video", many, mediaAttributes, {}, MediumKind::Video),
+    row<VySmilElemMediaObjRef>(Elem::Ref, u"ref", many, mediaAttributes, {}, MediumKind::Other),
+    row<VySmilElemRegion>(Elem::Region, u"region", 2,
                           {Attr::Id, Attr::Left, Attr::Top, Attr::Width, Attr::Height, Attr::Fit}, {}),
-    row<VySmilElemMeta>(Elem::Meta, u"meta", {Attr::Name, Attr::Content}, {}),
-    row<VySmilElemRootLayout>(Elem::RootLayout, u"root-layout", {Attr::Width, Attr::Height}, {}),
-    row<VySmilElemLayout>(Elem::Layout, u"layout", {}, {Elem::RootLayout, Elem::Region}),
-    row<VySmilElemHead>(Elem::Head, u"head", {}, {Elem::Layout, Elem::Meta}, MediumKind::None, {Attr::Id}),
-    row<VySmilElemBody>(Elem::Body, u"body", {}, {Elem::Par}, MediumKind::None, {Attr::Id}),
-    row<VySmilElemSmil>(Elem::Smil, u"smil", {}, {Elem::Head, Elem::Body}),
+    row<VySmilElemMeta>(Elem::Meta, u"meta", many, {Attr::Name, Attr::Content}, {}),
+    row<VySmilElemRootLayout>(Elem::RootLayout, u"root-layout", 1, {Attr::Width, Attr::Height}, {}),
+    row<VySmilElemLayout>(Elem::Layout, u"layout", 1, {}, {Elem::RootLayout, Elem::Region}),
+    row<VySmilElemHead>(Elem::Head, u"head", 1, {}, {Elem::Layout, Elem::Meta}, MediumKind::None, {Attr::Id}),
+    row<VySmilElemBody>(Elem::Body, u"body", 1, {}, {Elem::Par}, MediumKind::None, {Attr::Id}),
+    row<VySmilElemSmil>(Elem::Smil, u"smil", 1, {}, {Elem::Head, Elem::Body}),
 };
 
 // A row is found by the number of its element or attribute.
@@ -183,6 +193,18 @@ bool mayHold(Elem parent, Elem child) noexcept
 {
     const ElementRow *const known = rowOf(parent);
     return known && child != Elem::Unknown && known->children.contains(child);
+}
+
+bool mayHoldAny(Elem elem) noexcept
+{
+    const ElementRow *const known = rowOf(elem);
+    return !known || !known->children.isEmpty();
+}
+
+int mostOf(Elem elem) noexcept
+{
+    const ElementRow *const known = rowOf(elem);
+    return known ? known->most : many;
 }
 
 MediumKind mediumKindOf(Elem elem) noexcept

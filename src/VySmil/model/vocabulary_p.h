@@ -108,6 +108,10 @@ bool takes(Elem elem, QStringView name, VySmil::SMIL_VERSION version) noexcept;
 bool takes(Elem elem, Attr attr) noexcept;
 /// Whether the profile lets \a parent hold \a child.
 bool mayHold(Elem parent, Elem child) noexcept;
+/// Whether it lets \a elem hold anything; what is unknown may.
+bool mayHoldAny(Elem elem) noexcept;
+/// How many of \a elem it lets their parent hold.
+int mostOf(Elem elem) noexcept;
 /// What kind of media object an element is, if it is one.
 MediumKind mediumKindOf(Elem elem) noexcept;
 

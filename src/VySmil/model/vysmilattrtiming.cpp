@@ -15,7 +15,8 @@ VySmilAttrTiming::~VySmilAttrTiming() = default;
 
 bool VySmilAttrTiming::isValidAttr(const QString &name, VySmil::SMIL_VERSION) const noexcept
 {
-    return valueKindOf(attrOf(name)) == ValueKind::Time;
+    const Attr attr = attrOf(name);
+    return attr == Attr::Begin || attr == Attr::End || attr == Attr::Dur;
 }
 
 VySmil::VyTime VySmilAttrTiming::getBegin() const

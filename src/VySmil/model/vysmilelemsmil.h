@@ -22,9 +22,9 @@ public:
     /// Called at the end of both constructors; does nothing.
     void init() noexcept;
 
-    /// The first child "head", wherever it stands, or null.
+    /// The first child "head", wherever it stands, or null. It can be changed, even where the root is const.
     [[nodiscard]] VySmilElemBase *getHead() const;
-    /// The first child "body", wherever it stands, or null.
+    /// The first child "body", likewise.
     [[nodiscard]] VySmilElemBase *getBody() const;
 
     [[nodiscard]] QString getElemType() const override;

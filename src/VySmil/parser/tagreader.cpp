@@ -80,9 +80,9 @@ bool TagReader::readNext()
         m_tag.name = takeToken(m_text);
         if (m_tag.name.isEmpty())
             continue;
+        m_tag.isNamed = isName(m_tag.name);
         readAttributes();
-        if (isName(m_tag.name))
-            return true;
+        return true;
     }
     return false;
 }

@@ -7,6 +7,7 @@
 #include <VySmil/parser/textcursor_p.h>
 
 #include <array>
+#include <iterator>
 #include <vector>
 
 namespace VySmilPrivate {
@@ -23,6 +24,7 @@ struct LooseAttribute
 struct LooseTag
 {
     QStringView name;
+    bool isNamed = false; ///< by a name that counts, of ASCII characters and not too long
     bool isEnd = false;
     bool isEmpty = false;
     std::vector<LooseAttribute> attributes;
@@ -31,9 +33,8 @@ struct LooseTag
 /// Finds the tags of a text that may be damaged, as far as they can be told: attributes may lack quotes, or
 /// one of them, and values may hold what XML does not allow there.
 ///
-/// Comments, CDATA sections, instructions and document types are passed over, tags and attributes whose name
-/// is none of ASCII characters, or too long, left out. Of well-formed text it finds the tags that an XML
-/// reader does.
+/// Comments, CDATA sections, instructions and document types are passed over, attributes whose name is none
+/// of ASCII characters, or too long, left out. Of well-formed text it finds the tags that an XML reader does.
 class TagReader
 {
 public:

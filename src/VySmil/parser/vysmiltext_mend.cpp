@@ -20,7 +20,6 @@ using VySmilPrivate::bareAttribute;
 using VySmilPrivate::Elem;
 using VySmilPrivate::LooseAttribute;
 using VySmilPrivate::LooseTag;
-using VySmilPrivate::MediumKind;
 using VySmilPrivate::TagReader;
 using VySmilPrivate::TextCursor;
 
@@ -114,23 +113,29 @@ bool isMisspelt(Elem elem, const LooseAttribute &attribute)
     return name != attribute.name || (isSource(name) && (value.contains(u'\n') || value.contains(u'\r')));
 }
 
-// Reads all tags.
-Survey surveyOf(TagReader reader)
+void surveyNames(const LooseTag &tag, Survey &survey)
+{
+    const Elem elem = elemInAnyCase(tag.name);
+    if (elem == Elem::Par && tag.isEnd)
+        ++survey.closedPars;
+    else if (elem == Elem::Par && !tag.isEmpty)
+        ++survey.openedPars;
+    survey.isMisspelt = survey.isMisspelt || (elem != Elem::Unknown && nameOf(elem) != tag.name) ||
+                        std::any_of(tag.attributes.begin(), tag.attributes.end(),
+                                    [elem](const LooseAttribute &each) { return isMisspelt(elem, each); });
+}
+
+// Reads all tags that are left of \a text.
+Survey surveyOf(TagReader reader, QStringView text)
 {
     Survey survey;
-    const char16_t *const begin = reader.rest().utf16();
     while (reader.readNext()) {
         const LooseTag &tag = reader.tag();
-        const Elem elem = elemInAnyCase(tag.name);
-        if (elem == Elem::Par && tag.isEnd)
-            ++survey.closedPars;
-        else if (elem == Elem::Par && !tag.isEmpty)
-            ++survey.openedPars;
-        survey.isMisspelt = survey.isMisspelt || (elem != Elem::Unknown && nameOf(elem) != tag.name);
+        if (tag.isNamed)
+            surveyNames(tag, survey);
         for (const LooseAttribute &attribute : tag.attributes) {
-            survey.isMisspelt = survey.isMisspelt || isMisspelt(elem, attribute);
             if (isBareAttribute(attribute))
-                survey.barePlaces << attribute.name.utf16() + attribute.name.size() - begin;
+                survey.barePlaces << attribute.name.utf16() + attribute.name.size() - text.utf16();
         }
     }
     return survey;
@@ -142,25 +147,18 @@ bool doesRead(const QString &text)
     return VySmilParser::parse(text, &root) == VySmil::RESULT_OK;
 }
 
-bool readsWithBareAttributes(QStringView document, const QList<qsizetype> &barePlaces)
+bool readsWithBareAttributes(QStringView text, const QList<qsizetype> &barePlaces)
 {
     if (barePlaces.isEmpty())
         return false;
-    QString text;
+    QString completed;
     qsizetype done = 0;
     for (const qsizetype place : barePlaces) {
-        text += document.sliced(done, place - done);
-        text += QStringView(u"=\"\"");
+        completed += text.sliced(done, place - done);
+        completed += QStringView(u"=\"\"");
         done = place;
     }
-    return doesRead(text + document.sliced(done));
-}
-
-// What holds nothing that the vocabulary knows.
-bool isLeaf(Elem elem)
-{
-    return VySmilPrivate::mediumKindOf(elem) != MediumKind::None || elem == Elem::Region ||
-           elem == Elem::RootLayout || elem == Elem::Meta;
+    return doesRead(completed + text.sliced(done));
 }
 
 // Writes the document that the tags of a damaged one make.
@@ -244,7 +242,7 @@ void Mender::makeRoomFor(Elem elem)
 {
     if (elem == Elem::Unknown)
         return;
-    if (isLeaf(m_open.back().elem))
+    if (!VySmilPrivate::mayHoldAny(m_open.back().elem))
         closeDownTo(m_open.size() - 1);
     if (elem == Elem::Body || elem == Elem::Head)
         closeDownTo(1);
@@ -305,12 +303,14 @@ QString VySmilText::mend(const QString &text)
         return text;
     const QStringView document = isRead ? VySmilPrivate::documentIn(text) : start.rest();
     TagReader reader(document, isRead);
-    const Survey survey = surveyOf(reader);
+    const Survey survey = surveyOf(reader, text);
     if (isRead && !survey.isMisspelt)
         return text;
-    Mender mender(isRead || readsWithBareAttributes(document, survey.barePlaces),
+    Mender mender(isRead || readsWithBareAttributes(text, survey.barePlaces),
                   survey.closedPars < survey.openedPars);
-    while (!mender.isAtEnd() && reader.readNext())
-        mender.add(reader.tag());
+    while (!mender.isAtEnd() && reader.readNext()) {
+        if (reader.tag().isNamed)
+            mender.add(reader.tag());
+    }
     return mender.finish();
 }

@@ -150,7 +150,7 @@ private Q_SLOTS:
         const VySmilTextFault fault = VySmilText::explain("<a>&\r\n;</a>");
         QCOMPARE(fault.position, 5);
         QCOMPARE(QString("%1:%2").arg(fault.line).arg(fault.column), "1:6");
-        for (const QChar c : {QChar(0x0b), QChar(0x85), QChar(0x2028), QChar(0x202e), QChar(0xd800)}) {
+        for (const char16_t c : u"\u000b\u0085\u200b\u2028\u202e\ue000\ufffe\xd800") {
             const QString message = VySmilText::explain("<smil " + QString(c) + "/>").message;
             QVERIFY2(!message.isEmpty() && !message.contains(c), qPrintable(message));
         }

@@ -72,11 +72,19 @@ QStringDecoder decoderOf(const QByteArray &name)
         return {};
     // Names are compared as Qt compares them.
     const QByteArray key = name.toLower().replace('-', "").replace('_', "");
-    if (key == "usascii" || key == "ascii" || key == "locale" || key == "system")
+    if (key == "locale" || key == "system")
         return {};
     if (key == "ucs2" || key == "iso10646ucs2")
         return QStringDecoder(QStringConverter::Utf16);
-    return QStringDecoder(name.constData());
+    QStringDecoder decoder(name.constData());
+    const QByteArrayView known(decoder.name());
+    // What is said to be ASCII mostly is not.
+    if (key == "ascii" || known == "US-ASCII")
+        return {};
+    // Under its other names UTF-8 is read by ICU, which does not tell of errors.
+    if (known == "UTF-8")
+        return QStringDecoder(QStringConverter::Utf8);
+    return decoder;
 }
 
 // A parameter of a content type without its quotes.

@@ -24,6 +24,16 @@ constexpr qsizetype maxDeclarationSize = 4'096;
 // Names in a message may be long.
 constexpr int maxMessageSize = 200;
 
+QString printed(const QString &message)
+{
+    QString shown;
+    VySmilPrivate::appendShown(shown, message, maxMessageSize);
+    QString printed;
+    for (const uint c : shown.toUcs4())
+        printed += QChar::fromUcs4(QChar::isPrint(c) ? c : uint(QChar::ReplacementCharacter));
+    return printed;
+}
+
 VySmilTextFault fault(VySmilTextFault::REASON reason, qsizetype position, const QString &message)
 {
     VySmilTextFault fault;
@@ -101,21 +111,44 @@ bool hasAttributeTwice(QStringView tag)
     return false;
 }
 
-// The first fault of a document with a tag that exceeds the bounds.
-VySmilTextFault faultUpToTag(QStringView document, const Outline &outline)
+// Whether a tag without its ">" ends in the middle of an attribute.
+bool hasCutAttribute(QStringView tag)
+{
+    tag = tag.trimmed();
+    if (tag.endsWith(u'/'))
+        tag = tag.chopped(1).trimmed();
+    return !tag.endsWith(u'"') && !tag.endsWith(u'\'');
+}
+
+// The first fault of a document with a tag of too many attributes, with which Qt is not to end.
+VySmilTextFault faultUpToAttributes(QStringView document, const Outline &outline)
 {
     const Reading before = readTo(QXmlStreamReader::NoToken, document.first(outline.end));
     if (before.isMalformed())
         return malformed(before);
     if (outline.end == document.size())
         return endsTooEarly(document);
-    if (hasAttributeTwice(document.sliced(outline.begin, outline.end - outline.begin)))
+    const QStringView tag = document.sliced(outline.begin, outline.end - outline.begin);
+    if (hasCutAttribute(tag))
+        return fault(VySmilTextFault::FAULT_MALFORMED, outline.end,
+                     QStringLiteral("the last attribute has no value"));
+    if (hasAttributeTwice(tag))
         return fault(VySmilTextFault::FAULT_MALFORMED, outline.end,
                      QStringLiteral("the element has two attributes of one name"));
-    if (outline.excess == Excess::Attributes)
-        return fault(
-            VySmilTextFault::FAULT_ATTRIBUTES, outline.begin,
-            QStringLiteral("the element has more than %1 attributes").arg(VySmilParser::MAX_ATTRIBUTES));
+    return fault(VySmilTextFault::FAULT_ATTRIBUTES, outline.begin,
+                 QStringLiteral("the element has more than %1 attributes").arg(VySmilParser::MAX_ATTRIBUTES));
+}
+
+// The first fault of a document with a tag that is nested too deep.
+VySmilTextFault faultUpToDepth(QStringView document, const Outline &outline)
+{
+    const bool isCut = outline.end == document.size();
+    const Reading before =
+        readTo(QXmlStreamReader::NoToken, document.first(isCut ? outline.end : outline.end + 1));
+    if (before.isMalformed())
+        return malformed(before);
+    if (isCut)
+        return endsTooEarly(document);
     return fault(VySmilTextFault::FAULT_DEPTH, outline.begin,
                  QStringLiteral("elements are nested deeper than %1").arg(VySmilParser::MAX_DEPTH));
 }
@@ -123,7 +156,7 @@ VySmilTextFault faultUpToTag(QStringView document, const Outline &outline)
 // The first fault of a document with a document type declaration that is refused.
 VySmilTextFault faultUpToDoctype(QStringView document, const Outline &outline)
 {
-    const Reading before = readTo(QXmlStreamReader::NoToken, document.first(outline.begin));
+    const Reading before = readTo(QXmlStreamReader::NoToken, document.first(outline.begin + 1));
     if (before.isMalformed())
         return malformed(before);
     const QStringView declaration = document.sliced(outline.begin);
@@ -142,10 +175,16 @@ VySmilTextFault faultIn(QStringView document)
     if (document.isEmpty())
         return fault(VySmilTextFault::FAULT_EMPTY, -1, QStringLiteral("there is no text"));
     const Outline outline = VySmilPrivate::outlineOf(document);
-    if (outline.excess == Excess::Doctype)
+    switch (outline.excess) {
+    case Excess::Doctype:
         return faultUpToDoctype(document, outline);
-    if (outline.excess != Excess::None)
-        return faultUpToTag(document, outline);
+    case Excess::Attributes:
+        return faultUpToAttributes(document, outline);
+    case Excess::Depth:
+        return faultUpToDepth(document, outline);
+    case Excess::None:
+        break;
+    }
     const Reading reading = readTo(QXmlStreamReader::NoToken, document);
     if (reading.isMalformed())
         return malformed(reading);
@@ -180,9 +219,7 @@ VySmilTextFault VySmilText::explain(const QString &text)
 {
     const QStringView document = VySmilPrivate::documentIn(text);
     VySmilTextFault fault = faultIn(document);
-    QString message;
-    VySmilPrivate::appendShown(message, fault.message, maxMessageSize);
-    fault.message = message;
+    fault.message = printed(fault.message);
     if (fault.position < 0)
         return fault;
     fault.position += document.utf16() - QStringView(text).utf16();

@@ -73,6 +73,12 @@ private Q_SLOTS:
                          "EW0 /: is not in the vocabulary"));
         const auto findings = VySmilConformance::check(root, VySmilConformance::LEVEL_STRICT);
         QCOMPARE(findings[3].attribute, halves);
+        for (const char *blank : {"src", "alt"})
+            picture->setAttribute(blank, "\n ");
+        VySmilSlideShow show;
+        show.fromTree(root, {MessageCase::partOf("|||image/gif")});
+        QCOMPARE(slidesText(show), QString("320x480 size? screen?\nslide 9000\n"
+                                           " image \"\" 0,0 320x480 0- @Image region?\nunused part 0"));
         QCOMPARE(findings[6].elem, par->getSubElements()->at(2));
     }
 };

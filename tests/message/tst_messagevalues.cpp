@@ -134,6 +134,27 @@ private Q_SLOTS:
         show.toTree(nullptr, parts);
     }
 
+    // Sound has no place that others make room for, and nothing begins before its slide does.
+    void passesOverWhatCannotBe()
+    {
+        VySmilSlideShow show;
+        show.size = QSize(100, 50);
+        show.slides.resize(1);
+        QList<VySmilMedium> &media = show.slides[0].media;
+        media.resize(3);
+        media[0].kind = media[1].kind = VySmilMedium::MEDIUM_TEXT;
+        media[0].beginMs = -5;
+        media[2].kind = VySmilMedium::MEDIUM_AUDIO;
+        media[2].rect = QRect(0, 0, 1, 1);
+        show.splitSlides();
+        VySmilElemSmil root;
+        show.toTree(&root);
+        QCOMPARE(treeText(root),
+                 "smil(head(layout(root-layout[height=50 width=100] "
+                 "region[height=50 id=Text left=0 top=0 width=100])) "
+                 "body(par[dur=5000ms](text[region=Text] audio) par[dur=5000ms](text[region=Text])))");
+    }
+
     void comparesAndTellsFields()
     {
         QCOMPARE(unequalFields<VySmilPart>(), "contentId contentLocation name contentType durationMs");

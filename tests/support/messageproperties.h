@@ -79,6 +79,13 @@ inline QString brokenInMedium(const VySmilMedium &medium, const VySmilSlide &sli
     });
 }
 
+/// Whether the slide comes from a "par", or from its one medium.
+inline bool knowsItsElement(const VySmilSlide &slide)
+{
+    return slide.elem && (slide.elem->getElemType() == "par" ||
+                          (slide.media.size() == 1 && slide.media.first().elem == slide.elem));
+}
+
 inline QString brokenInSlides(const VySmilElemSmil &root, const MessageCase &message,
                               const VySmilSlideShow &show)
 {
@@ -87,6 +94,7 @@ inline QString brokenInSlides(const VySmilElemSmil &root, const MessageCase &mes
     for (const VySmilSlide &slide : show.slides) {
         broken += firstFault({
             {slide.durationMs <= 0, "a slide without a duration"},
+            {!knowsItsElement(slide), "a slide of another element"},
             {slide.guesses & ~VySmilMedium::GUESSES(VySmilMedium::GUESS_TIME), "a guess that no slide has"},
         });
         for (const VySmilMedium &medium : slide.media) {
@@ -212,6 +220,7 @@ inline QString brokenInSplitting(const MessageCase &message, const VySmilSlideSh
     again.layOut();
     const QString broken = firstFault({
         {std::any_of(split.slides.begin(), split.slides.end(), hasMediaOfOneSort), "two of a sort left"},
+        {!std::all_of(split.slides.begin(), split.slides.end(), knowsItsElement), "an element that is lost"},
         {!std::is_permutation(before.begin(), before.end(), after.begin(), after.end(), isSame),
          "other media"},
         {std::none_of(show.slides.begin(), show.slides.end(), hasMediaOfOneSort) && split != show, "no need"},

@@ -9,7 +9,9 @@ namespace {
 
 using VySmilPrivate::Attr;
 using VySmilPrivate::Found;
+using VySmilPrivate::imageRegion;
 using VySmilPrivate::Report;
+using VySmilPrivate::textRegion;
 using Length = std::optional<VySmil::VyLength>;
 
 bool isIn(const Length &length, VySmil::UNIT_KIND unit)
@@ -30,7 +32,7 @@ void checkId(const VySmilElemBase &region, const VySmilPrivate::DocumentFacts &d
         report.add(Found::RegionIdMissing, Attr::Id);
     else if (document.regionOf(id) != &region)
         report.add(Found::RegionIdTaken, Attr::Id, id);
-    else if (id != QLatin1String("Image") && id != QLatin1String("Text"))
+    else if (id != imageRegion && id != textRegion)
         report.add(Found::RegionIdUnusual, Attr::Id, id);
 }
 

@@ -67,7 +67,7 @@ constexpr bool areRowsInOrder()
         if (static_cast<std::size_t>(findingRows[i].found) != i)
             return false;
     }
-    return std::size(findingRows) == static_cast<std::size_t>(Found::BehindItsSlide) + 1;
+    return std::size(findingRows) == static_cast<std::size_t>(Found::Count);
 }
 static_assert(areRowsInOrder());
 

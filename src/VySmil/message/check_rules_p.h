@@ -53,6 +53,7 @@ enum class Found : quint8 {
     LetterCase,
     OverAtOnce,
     BehindItsSlide,
+    Count, ///< of those above
 };
 
 /// What is told of something found.

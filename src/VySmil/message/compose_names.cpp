@@ -4,6 +4,8 @@
 #include <VySmil/message/compose_references_p.h>
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace {
 
@@ -49,6 +51,10 @@ void PartNamer::count(const VySmilPart &part, int number)
 void PartNamer::name(int part)
 {
     VySmilPart &named = m_parts[part];
+    QString *const fields[] = {&named.contentId, &named.contentLocation};
+    const auto isBlank = [](const QString *field) { return field->trimmed().isEmpty(); };
+    if (std::none_of(std::begin(fields), std::end(fields), isBlank))
+        return;
     QString wanted = named.name.trimmed();
     if (wanted.isEmpty())
         wanted = named.contentLocation.trimmed();
@@ -56,8 +62,8 @@ void PartNamer::name(int part)
         wanted = QStringLiteral("part%1").arg(part + 1);
     count(named, -1);
     const QString text = unique(inNameCharacters(wanted));
-    for (QString *field : {&named.contentId, &named.contentLocation}) {
-        if (field->trimmed().isEmpty())
+    for (QString *field : fields) {
+        if (isBlank(field))
             *field = text;
     }
     count(named, 1);

@@ -12,8 +12,8 @@
 
 namespace {
 
-constexpr QLatin1String imageId("Image");
-constexpr QLatin1String textId("Text");
+using VySmilPrivate::imageRegion;
+using VySmilPrivate::textRegion;
 
 // Where media are shown, and how.
 struct Place
@@ -67,19 +67,19 @@ public:
     {
         if (!wish.id.isEmpty() && take(wish.id))
             return wish.id;
-        const QLatin1String usual = wish.isText ? textId : imageId;
-        const QLatin1String other = wish.isText ? imageId : textId;
+        const QLatin1String usual = wish.isText ? textRegion : imageRegion;
+        const QLatin1String other = wish.isText ? imageRegion : textRegion;
         if (take(usual))
             return usual;
         if (m_count == 2 && take(other))
             return other;
-        return usual + QString::number(++m_numbers[usual == textId ? 1 : 0]);
+        return usual + QString::number(++m_numbers[usual == textRegion ? 1 : 0]);
     }
 
 private:
     bool take(const QString &id)
     {
-        bool &isTaken = m_isTaken[id == textId ? 1 : 0];
+        bool &isTaken = m_isTaken[id == textRegion ? 1 : 0];
         return !std::exchange(isTaken, true);
     }
 
@@ -184,7 +184,7 @@ RegionPlan::RegionPlan(const QList<VySmilSlide> &slides, QSize size)
                 region = static_cast<int>(m_regions.size());
                 m_regions.push_back({QString(), sharers->place.rect, sharers->place.fit});
                 const bool mayKeepName = !medium.guesses.testFlag(VySmilMedium::GUESS_REGION) &&
-                                         (medium.region == imageId || medium.region == textId);
+                                         (medium.region == imageRegion || medium.region == textRegion);
                 wishes.push_back({isText, mayKeepName ? medium.region : QString()});
             }
             m_regionOfMedia.push_back(region);

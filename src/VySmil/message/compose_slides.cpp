@@ -5,11 +5,11 @@
 #include <VySmil/message/show_defaults_p.h>
 #include <VySmil/message/show_kind_p.h>
 #include <VySmil/message/show_place_p.h>
-#include <VySmil/message/show_time_p.h>
 #include <VySmil/message/vysmilslideshow.h>
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace {
 
@@ -60,11 +60,11 @@ void appendSplit(QList<VySmilSlide> &slides, const VySmilSlide &slide)
     slides.resize(first + count, empty);
     auto target = targets.begin();
     for (VySmilMedium medium : slide.media) {
-        const qint64 length = qint64(slide.endOf(medium)) - medium.beginMs;
+        const qint32 length = slide.endOf(medium) - std::max(0, medium.beginMs);
         medium.beginMs = 0;
         medium.endMs = length > 0 ? -1 : 0;
         VySmilSlide &part = slides[first + *target++];
-        part.durationMs = std::max(part.durationMs, VySmilPrivate::saturatedMs(static_cast<double>(length)));
+        part.durationMs = std::max(part.durationMs, length);
         part.media.append(medium);
     }
     for (qsizetype i = first; i < slides.size(); ++i) {

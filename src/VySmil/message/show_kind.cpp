@@ -4,6 +4,7 @@
 #include <VySmil/message/show_kind_p.h>
 
 #include <algorithm>
+#include <initializer_list>
 #include <iterator>
 
 namespace {
@@ -40,13 +41,13 @@ const KindRow &rowOf(VySmilMedium::MEDIUM_KIND kind)
     return found == std::end(kindRows) ? kindRows[VySmilMedium::MEDIUM_OTHER] : *found;
 }
 
-QStringView mimeType(const VySmilPart &part)
+QStringView mimeType(const VySmilPart &part) noexcept
 {
     return QStringView(part.contentType).left(part.contentType.indexOf(u';')).trimmed();
 }
 
 bool isOneOf(QStringView text, std::initializer_list<QStringView> names,
-             Qt::CaseSensitivity sensitivity = Qt::CaseSensitive)
+             Qt::CaseSensitivity sensitivity = Qt::CaseSensitive) noexcept
 {
     return std::any_of(names.begin(), names.end(), [&](QStringView name) {
         return name.size() == text.size() && name.compare(text, sensitivity) == 0;
@@ -55,7 +56,7 @@ bool isOneOf(QStringView text, std::initializer_list<QStringView> names,
 
 } // namespace
 
-bool VySmilPart::isSmil() const
+bool VySmilPart::isSmil() const noexcept
 {
     return isOneOf(mimeType(*this), {u"application/smil", u"application/smil+xml", u"application/x-smil"},
                    Qt::CaseInsensitive);

@@ -15,6 +15,10 @@
 
 namespace VySmilPrivate {
 
+/// The names of regions that phones know: that of pictures and videos, and that of texts.
+inline constexpr QLatin1String imageRegion("Image");
+inline constexpr QLatin1String textRegion("Text");
+
 /// A region that has something left within the root layout.
 struct Region
 {

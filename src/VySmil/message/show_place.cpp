@@ -13,7 +13,9 @@ bool hasTextAndOther(const VySmilSlide &slide)
 {
     const auto isText = [](const VySmilMedium &medium) { return medium.kind == VySmilMedium::MEDIUM_TEXT; };
     const auto isOther = [&isText](const VySmilMedium &medium) {
-        return !isText(medium) && (VySmilPrivate::isVisual(medium.kind) || !medium.rect.isEmpty());
+        const bool isSeen = VySmilPrivate::isVisual(medium.kind) ||
+                            (medium.kind != VySmilMedium::MEDIUM_AUDIO && !medium.rect.isEmpty());
+        return isSeen && !isText(medium);
     };
     return std::any_of(slide.media.begin(), slide.media.end(), isText) &&
            std::any_of(slide.media.begin(), slide.media.end(), isOther);

@@ -25,7 +25,7 @@ QSize withinBounds(qint64 width, qint64 height)
 
 } // namespace
 
-QSize VySmilMedium::shownSize(const QSize &natural) const
+QSize VySmilMedium::shownSize(const QSize &natural) const noexcept
 {
     if (natural.isEmpty() || area.isEmpty())
         return QSize();

@@ -84,7 +84,7 @@ public:
     /// is as large as the area; "slice" is scaled to cover it; "hidden" and "scroll" stay as large as they
     /// are; all else is scaled to fit in, as "meet" is. Each side has 1 to 65,535 pixels, rounded half up.
     /// Empty if \a natural or the area is.
-    [[nodiscard]] Q_INVOKABLE QSize shownSize(const QSize &natural) const;
+    [[nodiscard]] Q_INVOKABLE QSize shownSize(const QSize &natural) const noexcept;
 
     /// Whether all fields but the pointers are the same.
     bool operator==(const VySmilMedium &other) const noexcept;

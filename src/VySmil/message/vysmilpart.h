@@ -32,7 +32,7 @@ public:
 
     /// Whether this is the SMIL of the message: application/smil, application/smil+xml or application/x-smil,
     /// in any letter case.
-    [[nodiscard]] Q_INVOKABLE bool isSmil() const;
+    [[nodiscard]] Q_INVOKABLE bool isSmil() const noexcept;
 
     /// Gives each of \a parts something that media can refer to it by.
     ///

@@ -124,8 +124,8 @@ void ShowReader::place(VySmilMedium &medium) const
     const VySmilPrivate::Region *region = m_layout.find(medium.region);
     if (!region && medium.kind != VySmilMedium::MEDIUM_OTHER) {
         medium.guesses |= VySmilMedium::GUESS_REGION;
-        region = m_layout.find(medium.kind == VySmilMedium::MEDIUM_TEXT ? QStringLiteral("Text")
-                                                                        : QStringLiteral("Image"));
+        region = m_layout.find(medium.kind == VySmilMedium::MEDIUM_TEXT ? VySmilPrivate::textRegion
+                                                                        : VySmilPrivate::imageRegion);
     }
     if (!region)
         return;

@@ -90,7 +90,9 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
 
     VySmilElemSmil root;
     VySmil::STATUS_CODE status = VySmil::STATUS_OK;
-    int result = VySmilParser::parse(text, &root, strict, &status, version);
+    int result = 0;
+    checkHeap("parse", text.size(),
+              [&] { result = VySmilParser::parse(text, &root, strict, &status, version); });
     const QString working = workingText(text);
     countWay(working, result);
     if (!working.contains(QLatin1String("<!DOCTYPE")) || !working.contains(u'[')) {
@@ -105,7 +107,8 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
     checkSame("a copy differs", text, treeText(root), treeText(copy));
 
     QString written;
-    if (VySmilParser::assemble(&root, written, true) != 0)
+    checkHeap("assemble", text.size(), [&] { result = VySmilParser::assemble(&root, written, true); });
+    if (result != 0)
         return 0;
     VySmilElemSmil readBack;
     result = VySmilParser::parse(written, &readBack, true, &status);

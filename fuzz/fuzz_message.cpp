@@ -9,7 +9,7 @@
 #include "../tests/support/messageproperties.h"
 
 namespace {
-// Above this a text shows how long the library takes, and what is asked below would take longer.
+// Above this a text shows what the library takes, and what is asked below would take longer.
 constexpr size_t large = 4'096;
 } // namespace
 
@@ -22,7 +22,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
         if (size > large) {
             const Grown grown(message);
             for (const GrowthOperation &operation : growthOperations())
-                operation.second(grown);
+                checkHeap(operation.first, qsizetype(size), [&] { operation.second(grown); });
             continue;
         }
         VySmilElemSmil root;

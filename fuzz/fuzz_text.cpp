@@ -10,15 +10,18 @@
 
 namespace {
 
-// Above this a text shows how long the library takes, and what is asked of smaller ones would take longer.
+// Above this a text shows what the library takes, and what is asked of smaller ones would take longer.
 constexpr qsizetype large = 4'096;
 
 QString brokenIn(const QString &text)
 {
     if (text.size() <= large)
         return brokenInText(text);
-    const QString mended = VySmilText::mend(text);
-    const bool reads = VySmilText::explain(text).reason == VySmilTextFault::FAULT_NONE;
+    QString mended;
+    checkHeap("mend", text.size(), [&] { mended = VySmilText::mend(text); });
+    bool reads = false;
+    checkHeap("explain", text.size(),
+              [&] { reads = VySmilText::explain(text).reason == VySmilTextFault::FAULT_NONE; });
     return reads && mended.isEmpty() ? QStringLiteral("mended away") : QString();
 }
 

@@ -5,6 +5,7 @@
 
 #include "complain.h"
 
+#include <VySmil/model/vysmilelemsmil.h>
 #include <VySmil/parser/vysmiltext.h>
 
 #include <QDirIterator>
@@ -13,6 +14,8 @@
 #include <QMimeDatabase>
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace {
 
@@ -46,7 +49,7 @@ bool beginsAsSmil(QStringView text)
         text = withoutLeadingBlanks(text.sliced(at + end.size()));
         markup = std::begin(prolog);
     }
-    static constexpr QStringView root = u"<smil";
+    const QString root = u'<' + VySmilElemSmil().getElemType();
     if (!text.startsWith(root, Qt::CaseInsensitive))
         return false;
     return text.size() == root.size() || text[root.size()].isSpace() || text[root.size()] == u'/' ||

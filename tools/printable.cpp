@@ -18,8 +18,8 @@ bool isUnprintable(QStringView text, qsizetype at)
         return at + 1 == text.size() || !text[at + 1].isLowSurrogate();
     if (QChar::isLowSurrogate(unit))
         return at == 0 || !text[at - 1].isHighSurrogate();
-    return (unit < 0x20 && unit != u'\t') || isIn(unit, 0x7f, 0x9f) || isIn(unit, 0x2028, 0x202e) ||
-           isIn(unit, 0x2066, 0x2069);
+    return (unit < 0x20 && unit != u'\t') || isIn(unit, 0x7f, 0x9f) || unit == 0x61c ||
+           isIn(unit, 0x200e, 0x200f) || isIn(unit, 0x2028, 0x202e) || isIn(unit, 0x2066, 0x2069);
 }
 
 template <typename Escape>

@@ -7,8 +7,8 @@
 #include <QString>
 
 /// A text that a stranger wrote, as one line that a terminal shows and does not obey: control characters but
-/// the tab, line separators, bidirectional embeddings, overrides and isolates, and lone surrogates as "\n",
-/// "\x1b" or "\u202e".
+/// the tab, line separators, what controls the direction of writing, and lone surrogates as "\n", "\x1b" or
+/// "\u202e".
 QString printable(QStringView text);
 
 /// The same JSON text with such characters as JSON's escapes.

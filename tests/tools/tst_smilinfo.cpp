@@ -6,7 +6,10 @@
 #include "../support/answeredlines.h"
 #include "program.h"
 
+#include <VySmil/message/vysmilmedium.h>
+
 #include <QDomDocument>
+#include <QMetaEnum>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -118,12 +121,15 @@ private Q_SLOTS:
         QCOMPARE(process.readAllStandardError(), "smilinfo: standard output cannot be written\n");
     }
 
-    // Every option, and every member of what is printed, is in the man page.
+    // Every option, every member of what is printed and every guess is in the man page.
     void manPage()
     {
         const QString transcript = storedText(TRANSCRIPT);
         const QString manual = storedText(MAN_PAGE).remove(u'\\');
         QVERIFY(!manual.contains(QRegularExpression(QStringLiteral("[^\n]\\.(SH|TP|B|BR)\\b"))));
+        const auto guesses = QMetaEnum::fromType<VySmilMedium::GUESS_FLAG>();
+        for (int i = 0; i < guesses.keyCount(); ++i)
+            QVERIFY(manual.contains(QString(guesses.key(i)).replace("GUESS_", "\"").toLower() + u'"'));
         const QString help = QString::fromUtf8(run({"--help"}).output);
         for (const auto &[source, name] : {std::pair(transcript, QStringLiteral("\"(\\w+)\":")),
                                            std::pair(help, QStringLiteral("--([a-z]+)"))}) {

@@ -58,6 +58,7 @@ private Q_SLOTS:
         row<VySmilSlideShowOptions>("VySmilSlideShowOptions", 12);
         row<VySmilFinding>("VySmilFinding", 88);
         row<VySmilElemList>("VySmilElemList", 40);
+        row<VySmilBase>("VySmilBase", 8);
         row<VySmilAttrBase>("VySmilAttrBase", 16);
         row<VySmilAttrCommon>("VySmilAttrCommon", 16);
         row<VySmilAttrMedia>("VySmilAttrMedia", 16);
@@ -72,6 +73,11 @@ private Q_SLOTS:
         row<VySmilElemMeta>("VySmilElemMeta", 96);
         row<VySmilElemPar>("VySmilElemPar", 112);
         row<VySmilElemMediaObj>("VySmilElemMediaObj", 128);
+        row<VySmilElemMediaObjImg>("VySmilElemMediaObjImg", 128);
+        row<VySmilElemMediaObjText>("VySmilElemMediaObjText", 128);
+        row<VySmilElemMediaObjAudio>("VySmilElemMediaObjAudio", 128);
+        row<VySmilElemMediaObjVideo>("VySmilElemMediaObjVideo", 128);
+        row<VySmilElemMediaObjRef>("VySmilElemMediaObjRef", 128);
         row<VySmilElemUnknown>("VySmilElemUnknown", 96);
     }
     void sizes()

@@ -9,15 +9,16 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace {
 
 // The exit status.
-enum Outcome {
-    OUTCOME_OK = 0,
-    OUTCOME_FINDINGS = 1,
-    OUTCOME_UNREADABLE = 2,
+enum class Outcome {
+    Ok = 0,
+    Findings = 1,
+    Unreadable = 2,
 };
 
 // Reads a document and says what was asked for; what keeps it from being read goes to standard error.
@@ -29,7 +30,7 @@ Outcome inform(QTextStream &out, const QString &path, const Reading &reading, co
         complain(document.message.path, error);
         if (wishes.json)
             printJson(out, errorToJson(document.message.path, error));
-        return OUTCOME_UNREADABLE;
+        return Outcome::Unreadable;
     }
     const Message &message = document.message;
     if (wishes.slides || wishes.json)
@@ -41,7 +42,7 @@ Outcome inform(QTextStream &out, const QString &path, const Reading &reading, co
     else
         printText(out, document, wishes);
     const bool isClean = document.findings.isEmpty() && message.result == VySmil::RESULT_OK;
-    return isClean ? OUTCOME_OK : OUTCOME_FINDINGS;
+    return isClean ? Outcome::Ok : Outcome::Findings;
 }
 
 void addOptions(QCommandLineParser &parser)
@@ -95,10 +96,10 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationVersion(QStringLiteral(VYSMIL_VERSION));
     QCommandLineParser parser;
     addOptions(parser);
-    processArguments(parser, OUTCOME_UNREADABLE);
+    processArguments(parser, static_cast<int>(Outcome::Unreadable));
     const std::optional<Wishes> wishes = wishesOf(parser);
     if (!wishes)
-        return OUTCOME_UNREADABLE;
+        return static_cast<int>(Outcome::Unreadable);
     bool isComplete = false;
     Reading reading = readingOf(parser, isComplete);
     reading.strict = parser.isSet(QStringLiteral("strict"));
@@ -107,14 +108,14 @@ int main(int argc, char **argv)
     if (paths.isEmpty())
         paths << QStringLiteral("-");
     QTextStream out(stdout);
-    Outcome worst = isComplete ? OUTCOME_OK : OUTCOME_UNREADABLE;
+    Outcome worst = isComplete ? Outcome::Ok : Outcome::Unreadable;
     for (const QString &path : std::as_const(paths)) {
         worst = std::max(worst, inform(out, path, reading, *wishes));
         out.flush();
     }
     if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
         complain(QStringLiteral("standard output cannot be written"));
-        return OUTCOME_UNREADABLE;
+        worst = Outcome::Unreadable;
     }
-    return worst;
+    return static_cast<int>(worst);
 }

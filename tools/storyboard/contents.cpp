@@ -8,6 +8,8 @@
 #include <QFile>
 #include <QSet>
 
+#include <algorithm>
+
 namespace {
 
 constexpr qint64 maxPictureSize = 2'097'152;

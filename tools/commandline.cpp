@@ -9,6 +9,11 @@
 
 #include <cstdlib>
 
+void usePlainLocale()
+{
+    qputenv("LC_ALL", "C.UTF-8");
+}
+
 void addCommonOptions(QCommandLineParser &parser)
 {
     parser.addHelpOption();

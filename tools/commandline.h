@@ -8,6 +8,10 @@
 
 #include <QCommandLineParser>
 
+/// Lets the system and Qt speak English in UTF-8, whatever the locale is. Called before the application is
+/// made: under another locale Qt 6.8 complains.
+void usePlainLocale();
+
 /// Adds the options about reading, and those for help and version.
 void addCommonOptions(QCommandLineParser &parser);
 

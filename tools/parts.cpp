@@ -14,7 +14,9 @@
 #include <QMimeDatabase>
 
 #include <algorithm>
+#include <filesystem>
 #include <iterator>
+#include <system_error>
 #include <utility>
 
 namespace {
@@ -74,6 +76,20 @@ void addFile(const QFileInfo &info, const QMimeDatabase &types, Folder &folder)
     folder.parts.files << info.filePath();
 }
 
+// Qt passes them over.
+int namesNotInUtf8(const QString &path)
+{
+    namespace fs = std::filesystem;
+    int count = 0;
+    std::error_code error;
+    for (fs::directory_iterator entry(QFile::encodeName(path).toStdString(), error);
+         !error && entry != fs::directory_iterator(); entry.increment(error)) {
+        if (!QByteArray::fromStdString(entry->path().filename().native()).isValidUtf8())
+            ++count;
+    }
+    return count;
+}
+
 } // namespace
 
 bool readFolder(const QString &path, Folder &folder, QString &error)
@@ -98,9 +114,10 @@ bool readFolder(const QString &path, Folder &folder, QString &error)
     const QString canonical = place.canonicalFilePath();
     const QString inside = canonical.endsWith(u'/') ? canonical : canonical + u'/';
     const QMimeDatabase types;
+    const QString beside = path.endsWith(u'/') ? path : path + u'/';
     int linksOut = 0;
     for (const QString &name : std::as_const(names)) {
-        const QFileInfo info(path + u'/' + name);
+        const QFileInfo info(beside + name);
         if (info.isSymLink() && !info.canonicalFilePath().startsWith(inside))
             ++linksOut;
         else if (info.isFile())
@@ -108,5 +125,7 @@ bool readFolder(const QString &path, Folder &folder, QString &error)
     }
     if (linksOut > 0)
         complain(path, QStringLiteral("links that lead out of the folder are left out: %1").arg(linksOut));
+    if (const int count = namesNotInUtf8(path); count > 0)
+        complain(path, QStringLiteral("names that are no UTF-8 are left out: %1").arg(count));
     return true;
 }

@@ -24,7 +24,7 @@ struct Folder
 };
 
 /// Reads the folder at \a path, and of each file in it only the first few thousand bytes. False, with \a
-/// error set, if that cannot be done. Complains about links that it leaves out.
+/// error set, if that cannot be done. Complains about what it leaves out.
 bool readFolder(const QString &path, Folder &folder, QString &error);
 
 #endif

@@ -21,6 +21,10 @@ inline Said run(const QStringList &arguments, const QByteArray &input = QByteArr
                 const QString &dir = QString())
 {
     QProcess process;
+    // The poorest of all locales makes no difference.
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("LC_ALL", "C");
+    process.setProcessEnvironment(environment);
     process.setWorkingDirectory(dir);
     process.start(PROGRAM, arguments);
     process.write(input);

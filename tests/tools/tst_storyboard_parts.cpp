@@ -96,8 +96,11 @@ private Q_SLOTS:
         const QByteArray document =
             "<smil><head><layout><root-layout width='130' height='100'/><region id='R' " + region +
             "/></layout></head><body><img src='a.png' region='R'/></body></smil>";
+        Said drawn = draw({{"a.smil", document}, {"a.png", content}});
+        if (content.size() > 2 << 20)
+            QCOMPARE(std::exchange(drawn.errors, {}).count("/a.png: too large to be drawn"), 1);
         QDomDocument dom;
-        const QDomElement picture = pictureOf(dom, draw({{"a.smil", document}, {"a.png", content}}));
+        const QDomElement picture = pictureOf(dom, drawn);
         const auto uses = named(picture, "use");
         QCOMPARE(uses.size(), place.isEmpty() ? 0 : 1);
         QCOMPARE(withClass(picture, "icon").size(), place.isEmpty() ? 3 : 1);
@@ -129,6 +132,7 @@ private Q_SLOTS:
         QCOMPARE(drawn.exitCode, 0);
         QCOMPARE(drawn.output.count("<image "), 8);
         QCOMPARE(drawn.output.count("<use "), 16);
+        QCOMPARE(drawn.errors.count(": too large to be drawn: an icon stands for it\n"), 2);
     }
 
     // A text as a part: its lines, and which of them run from right to left.

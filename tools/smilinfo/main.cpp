@@ -91,6 +91,7 @@ std::optional<Wishes> wishesOf(const QCommandLineParser &parser)
 
 int main(int argc, char **argv)
 {
+    usePlainLocale();
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("smilinfo"));
     QCoreApplication::setApplicationVersion(QStringLiteral(VYSMIL_VERSION));

@@ -3,6 +3,8 @@
 
 #include "contents.h"
 
+#include "../complain.h"
+
 #include <VySmil/parser/vysmiltext.h>
 
 #include <QFile>
@@ -32,7 +34,10 @@ Contents contentsOf(const VySmilSlideShow &show, const QStringList &files)
         QFile file(files.at(part));
         if (!file.open(QIODevice::ReadOnly))
             return;
-        if (file.size() <= std::min(left, maxPictureSize)) {
+        if (file.size() > std::min(left, maxPictureSize)) {
+            if (medium.kind == VySmilMedium::MEDIUM_IMAGE)
+                complain(files.at(part), QStringLiteral("too large to be drawn: an icon stands for it"));
+        } else {
             if (const auto picture = pictureOf(file.read(maxPictureSize))) {
                 left -= picture->bytes.size();
                 contents.pictures.insert(part, *picture);

@@ -44,6 +44,7 @@ bool write(const QByteArray &svg, const QString &path, QString &error)
 int main(int argc, char **argv)
 {
     constexpr int failure = 2;
+    usePlainLocale();
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("storyboard"));
     QCoreApplication::setApplicationVersion(QStringLiteral(VYSMIL_VERSION));
